@@ -1,0 +1,58 @@
+"""Prints "ratio NAME VALUE" for each benchmark of ours that has a reference in the same run.
+
+A reference is named after ours plus "_" and the library, and takes the same argument:
+crc32_CalculateBytes_zlib/65536 is the reference of crc32_CalculateBytes/65536. The ratio is
+named after ours and the argument (crc32_CalculateBytes_64KiB); a reference other than zlib adds
+its name. The figures in GB/s come first, the ratio lines last.
+"""
+import json
+import sys
+
+REFERENCES = ("zlib", "libdeflate", "libspng", "libpng")
+
+
+def size_name(argument):
+    size = int(argument)
+    if size >= 1 << 20 and size % (1 << 20) == 0:
+        return f"{size >> 20}MiB"
+    if size >= 1 << 10 and size % (1 << 10) == 0:
+        return f"{size >> 10}KiB"
+    return f"{size}B"
+
+
+def load(paths):
+    speeds = {}
+    for path in paths:
+        try:
+            with open(path) as handle:
+                runs = json.load(handle).get("benchmarks", [])
+        except (OSError, ValueError):
+            continue  # a program whose benchmarks the filter left out writes nothing useful
+        for run in runs:
+            if "bytes_per_second" in run:
+                speeds[run["name"]] = run["bytes_per_second"]
+    return speeds
+
+
+def comparisons(speeds):
+    for name, theirs in speeds.items():
+        function, _, argument = name.partition("/")
+        base, _, library = function.rpartition("_")
+        if library not in REFERENCES or not argument:
+            continue
+        ours = speeds.get(f"{base}/{argument}")
+        if ours:
+            suffix = "" if library == "zlib" else f"_{library}"
+            yield f"{base}_{size_name(argument)}{suffix}", library, ours, theirs
+
+
+def main(paths):
+    results = sorted(comparisons(load(paths)))
+    for label, library, ours, theirs in results:
+        print(f"# {label}: ours {ours / 1e9:.2f} GB/s, {library} {theirs / 1e9:.2f} GB/s")
+    for label, _, ours, theirs in results:
+        print(f"ratio {label} {ours / theirs:.2f}")
+
+
+if __name__ == "__main__":
+    main(sys.argv[1:])

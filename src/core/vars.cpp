@@ -1,0 +1,16 @@
+#include "core/vars.h"
+
+namespace orvanta::vars {
+
+void reset() {
+    workspaceFolder.clear();
+    settingsRootKey.clear();
+    compressorChoice.clear();
+    rarFolder.clear();
+    sevenZipFolder.clear();
+    compressionLevel.clear();
+    finalPackageFile.clear();
+    abortWalks = false;
+}
+
+}  // namespace orvanta::vars

@@ -1,0 +1,21 @@
+#include "project/ContentList.h"
+
+#include "project/LineFile.h"
+
+namespace orvanta {
+
+std::string contentListText(const std::vector<std::string>& paths) {
+    return linesText(paths);
+}
+
+bool writeContentList(Host& host, const std::string& path, const std::vector<std::string>& paths) {
+    return host.writeFileAtomic(path, contentListText(paths));
+}
+
+ListUpdate readContentList(Host& host, const std::string& path) {
+    auto lines = readLines(host, path, kContentListLines);
+    if (!lines) return {};
+    return {ListAction::Append, std::move(*lines)};
+}
+
+}  // namespace orvanta

@@ -1,0 +1,71 @@
+#include "project/LineFile.h"
+
+#include <array>
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::size_t kChunkSize = 64 * 1024;
+
+class LineCollector {
+public:
+    explicit LineCollector(std::size_t maxLines) : maxLines_(maxLines) {}
+
+    bool full() const { return lines_.size() >= maxLines_; }
+
+    void take(std::string_view bytes) {
+        for (const char c : bytes) {
+            if (full()) return;
+            if (c == '\n') {
+                endLine();
+            } else {
+                current_ += c;
+            }
+        }
+    }
+
+    std::vector<std::string> finish() {
+        if (!current_.empty() && !full()) lines_.push_back(std::move(current_));
+        return std::move(lines_);
+    }
+
+private:
+    void endLine() {
+        if (!current_.empty() && current_.back() == '\r') current_.pop_back();
+        lines_.push_back(std::move(current_));
+        current_.clear();
+    }
+
+    std::size_t maxLines_;
+    std::vector<std::string> lines_;
+    std::string current_;
+};
+
+}  // namespace
+
+std::optional<std::vector<std::string>> readLines(Host& host, const std::string& path, std::size_t maxLines) {
+    const auto reader = host.openForReading(path);
+    if (!reader) return std::nullopt;
+    LineCollector collector(maxLines);
+    std::array<char, kChunkSize> chunk{};
+    while (!collector.full()) {
+        const std::size_t got = reader->read(chunk.data(), chunk.size());
+        if (got == 0) break;
+        collector.take(std::string_view(chunk.data(), got));
+    }
+    return collector.finish();
+}
+
+void appendLine(std::string& out, std::string_view line) {
+    out += line;
+    out += "\r\n";
+}
+
+std::string linesText(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const auto& line : lines) appendLine(text, line);
+    return text;
+}
+
+}  // namespace orvanta

@@ -1,0 +1,81 @@
+#pragma once
+// Where a project's pieces lie. The only place that knows the names of the workspace entries,
+// the project files and the folders of a working set.
+
+#include <string>
+#include <string_view>
+
+namespace orvanta {
+
+namespace projectfile {
+inline constexpr std::string_view kMainSettings = "mainsettings.cfg";
+inline constexpr std::string_view kIntro = "intro.cfg";
+inline constexpr std::string_view kTips = "tips.cfg";
+inline constexpr std::string_view kUninstallIntro = "uninstallIntro.cfg";
+inline constexpr std::string_view kUninstallEnd = "uninstallEnd.cfg";
+inline constexpr std::string_view kLicense = "slicense.txt";
+inline constexpr std::string_view kRegistryLocations = "registrylocations.cfg";
+inline constexpr std::string_view kAppDataLocations = "appdatalocations.cfg";
+inline constexpr std::string_view kDependencies = "dependencies.cfg";
+inline constexpr std::string_view kFonts = "fonts.cfg";
+inline constexpr std::string_view kFiles = "files.cfg";
+inline constexpr std::string_view kFolders = "folders.cfg";
+inline constexpr std::string_view kPackages = "packages.cfg";
+inline constexpr std::string_view kExecutables = "executables.cfg";
+inline constexpr std::string_view kMsi = "msi.cfg";
+inline constexpr std::string_view kDesktopIni = "desktop.ini";
+inline constexpr std::string_view kBackground = "1.jpg";
+inline constexpr std::string_view kLogo = "logo.png";
+inline constexpr std::string_view kPreview = "preview.png";
+inline constexpr std::string_view kMarkerExtension = ".ovproj";
+inline constexpr std::string_view kRecordExtension = ".hsh";
+inline constexpr std::string_view kRecordDraft = "hash.hsh";
+}  // namespace projectfile
+
+namespace projectfolder {
+inline constexpr std::string_view kFiles = "files";
+inline constexpr std::string_view kExecutables = "executables";
+inline constexpr std::string_view kFonts = "fonts";
+inline constexpr std::string_view kPackages = "packages";
+inline constexpr std::string_view kSettingsSet = "settingsset";
+inline constexpr std::string_view kMsi = "msi";
+inline constexpr std::string_view kCompiled = "compiled";
+inline constexpr std::string_view kEditions = "editions";
+inline constexpr std::string_view kVersions = "versions";
+}  // namespace projectfolder
+
+// The words that stand for "no edition" and "no version": the marker spells them with capitals,
+// the editor's fields without. Nothing compares the one with the other.
+inline constexpr std::string_view kMarkerNoEditions = "No Editions";
+inline constexpr std::string_view kMarkerNoVersions = "No Versions";
+inline constexpr std::string_view kNoEditions = "No editions";
+inline constexpr std::string_view kNoVersions = "No versions";
+
+// folder + "\" + name, by plain text as every path rule of the project is: an empty part
+// stays an empty component instead of being folded away.
+std::string inFolder(std::string_view folder, std::string_view name);
+
+// Entries of the workspace.
+std::string myInstallersFolder(std::string_view workspaceFolder);
+std::string backgroundsFolder(std::string_view workspaceFolder);
+std::string copyFilesBatch(std::string_view workspaceFolder);
+std::string deleteProjectBatch(std::string_view workspaceFolder);
+
+// workspaceFolder + "\myinstallers\" + appName.
+std::string projectRoot(std::string_view workspaceFolder, std::string_view appName);
+// appName + ".ovproj", and that name below a folder.
+std::string markerName(std::string_view appName);
+std::string markerPath(std::string_view folder, std::string_view appName);
+
+// Working sets below the project root: "\editions\<edition>" and "\versions\<version>\<edition>".
+std::string editionWorkingSet(std::string_view projectRoot, std::string_view edition);
+std::string versionWorkingSet(std::string_view projectRoot, std::string_view version,
+                              std::string_view edition);
+// "\v<version>": the application's files of one version, beside "\files".
+std::string versionFilesFolder(std::string_view workingSet, std::string_view version);
+
+// "\settingsset\<index>.cfg" and "\settingsset\settings.cfg" of a working set.
+std::string settingsSetFile(std::string_view workingSet, int index);
+std::string settingsSetIndexFile(std::string_view workingSet);
+
+}  // namespace orvanta

@@ -1,0 +1,89 @@
+#include "core/commonFunctions.h"
+
+#include <gtest/gtest.h>
+
+#include "core/CommondialogBox.h"
+#include "core/SpecialFolderAPI.h"
+#include "support/Sandbox.h"
+#include "support/ScriptedDialogs.h"
+
+namespace orvanta {
+namespace {
+
+TEST(FileTests, WildcardsFilesAndFolders) {
+    testing::Sandbox box;
+    box.writeFile("p\\mainsettings.cfg", "x");
+    box.makeFolder("p\\files");
+    Host& host = box.host();
+    EXPECT_EQ(fileExists(host, box.windowsPath("p\\mainsettings.cfg")), kTrue);
+    EXPECT_EQ(fileExists(host, box.windowsPath("p\\*.cfg")), kTrue);
+    EXPECT_EQ(fileExists(host, box.windowsPath("p\\*.hsh")), kFalse);
+    EXPECT_EQ(fileExists(host, box.windowsPath("p\\files")), kFalse) << "a folder is no file";
+    EXPECT_EQ(fileExists(host, box.windowsPath("p\\missing\\x.cfg")), kFalse);
+    EXPECT_EQ(fileExists(host, ""), kFalse);
+    EXPECT_EQ(folderExists(host, box.windowsPath("p\\files")), kTrue);
+    EXPECT_EQ(folderExists(host, box.windowsPath("p\\mainsettings.cfg")), kTrue) << "a file counts too";
+    EXPECT_EQ(folderExists(host, box.windowsPath("p\\files\\")), kTrue);
+    EXPECT_EQ(folderExists(host, box.windowsPath("p\\nothing")), kFalse);
+}
+
+TEST(WindowsVersionName, FollowsTheVersionWords) {
+    struct Row {
+        VersionWords words;
+        const char* name;
+    };
+    const Row rows[] = {
+        {{5, 0}, "Windows 2000"},  {{5, 1}, "Windows XP"}, {{5, 2}, "Windows XP"}, {{5, 3}, ""},
+        {{6, 0}, "Windows Vista"}, {{6, 1}, "Windows 7"},  {{6, 3}, "Windows 7"},  {{10, 0}, "Windows old"},
+        {{4, 0}, "Windows old"}};
+    for (const auto& row : rows) {
+        testing::Sandbox box;
+        box.config().versionWords = row.words;
+        EXPECT_EQ(windowsVersionName(box.host()), row.name) << row.words.major << "." << row.words.minor;
+    }
+}
+
+TEST(ShellOpen, OnlyAMissingFileIsReportedAndOnlyWithTaskDialogs) {
+    EXPECT_EQ(shellErrorText(2), "File not found.");
+    EXPECT_EQ(shellErrorText(3), "Caminho n\xE3o encontrado.");
+    EXPECT_EQ(shellErrorText(32), "The specified dynamic-link library was not found. ");
+    EXPECT_EQ(shellErrorText(4), "");
+
+    for (const VersionWords words : {VersionWords{6, 1}, VersionWords{5, 1}}) {
+        testing::Sandbox box;
+        box.config().versionWords = words;
+        testing::ScriptedDialogs dialogs;
+        shellOpen(box.host(), dialogs, box.windowsPath("missing.txt"), "");
+        const std::size_t expected = words.major == 6 ? 1 : 0;
+        ASSERT_EQ(dialogs.messageBoxes.size(), expected);
+        if (expected) {
+            EXPECT_EQ(dialogs.messageBoxes[0].text, "File not found.");
+        }
+        EXPECT_TRUE(dialogs.taskDialogs.empty());
+    }
+}
+
+TEST(SpecialFolders, EndWithABackslash) {
+    testing::Sandbox box;
+    EXPECT_EQ(specialFolder(box.host(), kFolderDocuments), box.documentsFolder() + "\\");
+    for (const int csidl : {kFolderProgramFiles, kFolderSystem32Bit, kFolderCommonProgramFiles}) {
+        const std::string folder = specialFolder(box.host(), csidl);
+        ASSERT_GT(folder.size(), 3u) << csidl;
+        EXPECT_EQ(folder.back(), '\\');
+        EXPECT_EQ(folder[1], ':');
+    }
+    EXPECT_EQ(specialFolder(box.host(), 9999), "");
+}
+
+TEST(OpenFileDialogStrings, FilterAndBareName) {
+    EXPECT_EQ(toDialogFilter("Executable files|*.exe;*.bat"),
+              std::string("Executable files\0*.exe;*.bat\0\0", 30));
+    const std::string buffer = std::string("C:\\p\\files\\app.exe") + '\0' + std::string(20, ' ');
+    const OpenFileResult result = finishOpenFileResult(buffer);
+    EXPECT_EQ(result.path, "C:\\p\\files\\app.exe");
+    EXPECT_EQ(result.fileName, "app.exe");
+    EXPECT_EQ(finishOpenFileResult(std::string(1, '\0') + "   ").path, "");
+}
+
+}  // namespace
+}  // namespace orvanta

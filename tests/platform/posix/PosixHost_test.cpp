@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <sys/statvfs.h>
+
+#include <filesystem>
+
+#include "support/Sandbox.h"
+
+namespace orvanta {
+namespace {
+
+TEST(PosixPlaces, SystemFoldersLiveOnTheSimulatedDriveAndAreMadeOnFirstUse) {
+    testing::Sandbox box;
+    Host& host = box.host();
+    EXPECT_EQ(host.specialFolder(38), "C:\\Program Files");
+    EXPECT_EQ(host.specialFolder(41), "C:\\Windows\\SysWOW64");
+    EXPECT_EQ(host.specialFolder(43), "C:\\Program Files\\Common Files");
+    EXPECT_TRUE(std::filesystem::is_directory(box.hostRoot() / "data/drive_c/Program Files/Common Files"));
+    EXPECT_TRUE(std::filesystem::is_directory(box.hostRoot() / "data/drive_c/Windows/SysWOW64"));
+    EXPECT_EQ(host.specialFolder(5), box.documentsFolder()) << "the configured documents folder";
+    EXPECT_EQ(host.specialFolder(7), "");
+}
+
+TEST(PosixPlaces, FreeSpaceFieldsMultiplyToTheFileSystemsSize) {
+    testing::Sandbox box;
+    const auto space = box.host().diskSpace("C:\\");
+    struct statvfs info {};
+    ASSERT_EQ(::statvfs(box.hostRoot().c_str(), &info), 0);
+    ASSERT_TRUE(space.has_value());
+    const std::uint64_t cluster = std::uint64_t{space->sectorsPerCluster} * space->bytesPerSector;
+    EXPECT_EQ(cluster * space->totalClusters / info.f_frsize, info.f_blocks);
+    EXPECT_FALSE(box.host().diskSpace("Q:\\").has_value());
+}
+
+TEST(PosixAttributes, HiddenAndSystemAreKeptBesideTheFileWhereTheFileSystemAllows) {
+    testing::Sandbox box;
+    Host& host = box.host();
+    box.writeFile("desktop.ini", "[x]");
+    const std::string path = box.windowsPath("desktop.ini");
+    ASSERT_TRUE(host.setFileAttributes(path, kAttributeHidden | kAttributeSystem));
+    const auto kept = *host.fileAttributes(path) & (kAttributeHidden | kAttributeSystem);
+    if (kept == 0) GTEST_SKIP() << "no user attributes on this file system";
+    EXPECT_EQ(kept, kAttributeHidden | kAttributeSystem);
+    ASSERT_TRUE(host.writeFileAtomic(path, "[y]"));
+    EXPECT_EQ(*host.fileAttributes(path) & kAttributeHidden, kAttributeHidden) << "a rewrite keeps them";
+    ASSERT_TRUE(host.setFileAttributes(path, kAttributeArchive));
+    EXPECT_EQ(*host.fileAttributes(path) & (kAttributeHidden | kAttributeSystem), 0u);
+}
+
+TEST(PosixPlaces, HostPathsOnTheCommandLineArriveInWindowsForm) {
+    testing::Sandbox box;
+    box.config().commandLineSet = false;
+    const std::string line = box.host().commandLine();
+    EXPECT_EQ(line.find('/'), std::string::npos) << line;
+}
+
+}  // namespace
+}  // namespace orvanta

@@ -1,0 +1,98 @@
+#pragma once
+// A host that forwards every call to a real one but fails chosen writes and renames, so a test
+// can prove what a failed save leaves behind. Failures are counted from 1 and happen once.
+
+#include "platform/Host.h"
+
+namespace orvanta::testing {
+
+class FailingHost : public Host {
+public:
+    explicit FailingHost(Host& inner) : inner_(inner) {}
+
+    // Fail the nth writeFileAtomic / renameFile from now on (0: never).
+    void failWrite(int nth) { writesLeft_ = nth; }
+    void failRename(int nth) { renamesLeft_ = nth; }
+
+    std::vector<DirectoryEntry> listDirectory(const std::string& pattern, bool includeFolders) override {
+        return inner_.listDirectory(pattern, includeFolders);
+    }
+    std::optional<std::uint64_t> fileLength(const std::string& path) override {
+        return inner_.fileLength(path);
+    }
+    std::optional<std::uint32_t> fileAttributes(const std::string& path) override {
+        return inner_.fileAttributes(path);
+    }
+    bool setFileAttributes(const std::string& path, std::uint32_t attributes) override {
+        return inner_.setFileAttributes(path, attributes);
+    }
+    std::unique_ptr<FileReader> openForReading(const std::string& path) override {
+        return inner_.openForReading(path);
+    }
+    bool writeFileAtomic(const std::string& path, std::string_view contents) override {
+        return !countDown(writesLeft_) && inner_.writeFileAtomic(path, contents);
+    }
+    bool copyFile(const std::string& from, const std::string& to) override {
+        return inner_.copyFile(from, to);
+    }
+    bool renameFile(const std::string& from, const std::string& to) override {
+        return !countDown(renamesLeft_) && inner_.renameFile(from, to);
+    }
+    bool deleteFile(const std::string& path) override { return inner_.deleteFile(path); }
+    bool createFolder(const std::string& path) override { return inner_.createFolder(path); }
+    bool removeFolder(const std::string& path) override { return inner_.removeFolder(path); }
+    std::optional<DiskSpace> diskSpace(const std::string& root) override { return inner_.diskSpace(root); }
+
+    std::string specialFolder(int csidl) override { return inner_.specialFolder(csidl); }
+    std::string applicationFolder() override { return inner_.applicationFolder(); }
+    std::string commandLine() override { return inner_.commandLine(); }
+    std::string toHostPath(const std::string& windowsPath) override { return inner_.toHostPath(windowsPath); }
+    std::string toWindowsPath(const std::string& hostPath) override { return inner_.toWindowsPath(hostPath); }
+
+    long regCreateKey(RegistryKey root, const std::string& subKey, RegistryKey& result) override {
+        return inner_.regCreateKey(root, subKey, result);
+    }
+    long regOpenKey(RegistryKey root, const std::string& subKey, std::uint32_t access,
+                    RegistryKey& result) override {
+        return inner_.regOpenKey(root, subKey, access, result);
+    }
+    long regQueryValue(RegistryKey key, const std::string& name, std::uint32_t& type,
+                       std::string& data) override {
+        return inner_.regQueryValue(key, name, type, data);
+    }
+    long regSetValue(RegistryKey key, const std::string& name, std::uint32_t type,
+                     std::string_view data) override {
+        return inner_.regSetValue(key, name, type, data);
+    }
+    long regCloseKey(RegistryKey key) override { return inner_.regCloseKey(key); }
+
+    std::optional<std::uint32_t> startProcess(const std::string& commandLine, int windowStyle) override {
+        return inner_.startProcess(commandLine, windowStyle);
+    }
+    ProcessHandle openProcess(std::uint32_t processId) override { return inner_.openProcess(processId); }
+    WaitResult waitForProcess(ProcessHandle process, std::uint32_t milliseconds) override {
+        return inner_.waitForProcess(process, milliseconds);
+    }
+    void closeProcess(ProcessHandle process) override { inner_.closeProcess(process); }
+    std::vector<std::string> processNames() override { return inner_.processNames(); }
+    int shellExecute(const std::string& file, const std::string& parameters, int showCommand) override {
+        return inner_.shellExecute(file, parameters, showCommand);
+    }
+
+    VersionWords versionWords() override { return inner_.versionWords(); }
+    unsigned ansiCodePage() override { return inner_.ansiCodePage(); }
+    std::uint64_t tickMilliseconds() override { return inner_.tickMilliseconds(); }
+
+private:
+    // True when this call is the one chosen to fail.
+    static bool countDown(int& left) {
+        if (left <= 0) return false;
+        return --left == 0;
+    }
+
+    Host& inner_;
+    int writesLeft_ = 0;
+    int renamesLeft_ = 0;
+};
+
+}  // namespace orvanta::testing
