@@ -44,9 +44,8 @@ Host& Sandbox::host() {
     if (!host_) {
         if (config_.applicationFolder.empty()) {
             // A first host gives the Windows form of the sandbox paths.
-            HostConfig probe = config_;
-            probe.applicationFolder = "C:\\";
-            auto namer = createHost(probe);
+            auto namer = createHost(config_);
+            programFolder_ = namer->applicationFolder();
             const std::string root = namer->toWindowsPath(root_.string());
             config_.applicationFolder = root + "\\app";
             config_.specialFolders.emplace_back(5, root + "\\Documents");
@@ -59,6 +58,11 @@ Host& Sandbox::host() {
 Host& Sandbox::restartHost() {
     host_.reset();
     return host();
+}
+
+std::string Sandbox::programFolder() {
+    host();
+    return programFolder_;
 }
 
 std::string Sandbox::windowsRoot() {

@@ -29,6 +29,8 @@ public:
     std::string windowsPath(const std::string& relative);
     std::string applicationFolder() { return windowsPath("app"); }
     std::string documentsFolder() { return windowsPath("Documents"); }
+    // The Windows path of the folder of the test programs, where helper programs are built.
+    std::string programFolder();
 
     // Plain file helpers below the root, by relative Windows-style path, in the host's own calls.
     void writeFile(const std::string& relative, const std::string& contents);
@@ -41,6 +43,7 @@ private:
 
     std::filesystem::path root_;
     HostConfig config_;
+    std::string programFolder_;
     std::unique_ptr<Host> host_;
 };
 

@@ -8,9 +8,6 @@
 
 namespace orvanta {
 
-// The environment variable through which a host hands its C: folder to the command processor.
-inline constexpr const char* kDriveCEnvironmentVariable = "ORVANTA_DRIVE_C";
-
 class DriveMap {
 public:
     explicit DriveMap(std::string driveCFolder);

@@ -12,6 +12,10 @@
 
 namespace orvanta {
 
+// The environment variable through which a host hands its data folder (simulated C: drive, registry
+// store, archiver links) to the command processor, so that batch lines see the same machine.
+inline constexpr const char* kDataFolderEnvironmentVariable = "ORVANTA_DATA_FOLDER";
+
 class PosixHost : public Host {
 public:
     explicit PosixHost(const HostConfig& config);

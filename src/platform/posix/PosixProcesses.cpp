@@ -117,10 +117,10 @@ std::optional<std::uint32_t> PosixHost::spawn(const std::vector<std::string>& ar
     std::vector<char*> argv;
     for (const auto& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
-    // The child learns where this host keeps its C: drive.
-    const std::string prefix = std::string(kDriveCEnvironmentVariable) + "=";
-    const std::string driveVariable = prefix + drives_.driveCFolder();
-    std::vector<char*> environment{const_cast<char*>(driveVariable.c_str())};
+    // The child learns where this host keeps its machine.
+    const std::string prefix = std::string(kDataFolderEnvironmentVariable) + "=";
+    const std::string dataVariable = prefix + dataFolder_;
+    std::vector<char*> environment{const_cast<char*>(dataVariable.c_str())};
     for (char** entry = environ; *entry != nullptr; ++entry)
         if (!std::string_view(*entry).starts_with(prefix)) environment.push_back(*entry);
     environment.push_back(nullptr);

@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "FakeProgram.h"
-#include "platform/posix/DriveMap.h"
+#include "platform/posix/PosixHost.h"
 #include "support/Sandbox.h"
 
 namespace orvanta {
@@ -25,10 +25,10 @@ bool runToEnd(Host& host, const std::string& commandLine) {
 class Processes : public ::testing::Test {
 protected:
     void SetUp() override {
-        // Stands in for the command processor: records its arguments and the C: drive it was given.
+        // Stands in for the command processor: records its arguments and the data folder it was given.
         const auto recorder = testing::writeFakeProgram(
             box.hostRoot() / "ovcmd", "printf '%s\\n' \"$@\" > \"" + (box.hostRoot() / "args").string() +
-                                          "\"; echo \"$" + kDriveCEnvironmentVariable + "\" >> \"" +
+                                          "\"; echo \"$" + kDataFolderEnvironmentVariable + "\" >> \"" +
                                           (box.hostRoot() / "args").string() + "\"");
         box.config().commandProcessor = recorder.string();
     }
@@ -39,12 +39,12 @@ protected:
 TEST_F(Processes, BatchFilesAndBuiltinCommandsRunUnderTheCommandProcessor) {
     Host& host = box.host();
     box.writeFile("job\\Packager.bat", "echo hi\r\n");
-    const std::string driveC = host.toHostPath("C:\\");
+    const std::string dataFolder = (box.hostRoot() / "data").string();
     ASSERT_TRUE(runToEnd(host, "\"" + box.windowsPath("JOB\\packager.bat") + "\""));
     EXPECT_EQ(box.readFile("args"),
-              (box.hostRoot() / "job" / "Packager.bat").string() + "\n" + driveC + "\n");
+              (box.hostRoot() / "job" / "Packager.bat").string() + "\n" + dataFolder + "\n");
     ASSERT_TRUE(runToEnd(host, "del /q \"C:\\a b.txt\""));
-    EXPECT_EQ(box.readFile("args"), "/c\ndel /q \"C:\\a b.txt\"\n" + driveC + "\n")
+    EXPECT_EQ(box.readFile("args"), "/c\ndel /q \"C:\\a b.txt\"\n" + dataFolder + "\n")
         << "the line is passed whole";
     EXPECT_FALSE(host.startProcess("\"" + box.windowsPath("missing.bat") + "\"", kWindowHidden).has_value());
 }
