@@ -51,8 +51,17 @@ TEST_F(RegistryAPITest, ReadSettingNumberFallsBackOnlyWhenTheQueryFails) {
     EXPECT_EQ(registry.readSettingNumber(key, "absent", -1), -1) << "missing value";
     registry.writeRegistryString(key, "long", "more than four bytes");
     EXPECT_EQ(registry.readSettingNumber(key, "long", 3), 3) << "a value too large for four bytes";
-    registry.writeRegistryString(key, "abc", "abcd");
-    EXPECT_EQ(registry.readSettingNumber(key, "abc", 3), 0x64636261) << "four bytes of any type are a number";
+    registry.writeRegistryString(key, "abc", "abc");
+    EXPECT_EQ(registry.readSettingNumber(key, "abc", 3), 0x00636261) << "a string's NUL is counted";
+    registry.writeRegistryString(key, "abcd", "abcd");
+    EXPECT_EQ(registry.readSettingNumber(key, "abcd", 3), 3) << "four letters and their NUL do not fit";
+    Host& host = box.host();
+    RegistryKey opened = 0;
+    ASSERT_EQ(host.regOpenKey(kHkeyCurrentUser, "Software\\OrvantaRegistryTest", kKeyWrite, opened), 0);
+    ASSERT_EQ(host.regSetValue(opened, "binary", kRegBinary, "wxyz"), 0);
+    host.regCloseKey(opened);
+    EXPECT_EQ(registry.readSettingNumber(key, "binary", 3), 0x7a797877)
+        << "four bytes of any type are a number";
     registry.writeSettingNumber(key, "negative", -2);
     EXPECT_EQ(registry.readSettingNumber(key, "negative", 0), -2);
 }

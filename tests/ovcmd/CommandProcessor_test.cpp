@@ -67,5 +67,18 @@ TEST_F(CommandProcessorTest, AttribSetsTheReadOnlyBitOfAFolderAndFiles) {
     box.writeFile("p\\new.txt", "the folder still takes files");
 }
 
+// Windows' cmd.exe reads a batch file a line at a time, so nothing runs after the file is gone
+// (wine's reads it whole, which is why this is not among the tests shared with it).
+TEST_F(CommandProcessorTest, NothingRunsAfterTheBatchFileDeletedItself) {
+    const std::string batch = box.windowsPath("job.bat");
+    box.writeFile("x", "x");
+    box.writeFile("job.bat", "del \"" + batch + "\"\r\ncopy \"" + box.windowsPath("x") + "\" \"" +
+                                 box.windowsPath("y") + "\"\r\n");
+    CommandProcessor processor(box.host());
+    processor.runBatchFile(batch, {});
+    EXPECT_FALSE(box.exists("job.bat"));
+    EXPECT_FALSE(box.exists("y"));
+}
+
 }  // namespace
 }  // namespace orvanta

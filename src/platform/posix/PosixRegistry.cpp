@@ -122,7 +122,10 @@ long PosixHost::regSetValue(RegistryKey key, const std::string& name, std::uint3
     const auto path = openKeyPath(key);
     if (!path) return kErrorInvalidHandle;
     if (ArchiverLinks::isRegistrationKey(*path)) return kErrorAccessDenied;
-    return store_.setValue(*path, name, type, std::string(data)) ? kErrorSuccess : kErrorAccessDenied;
+    // RegSetValueExA stores a string given without its NUL with one, so its size counts it.
+    std::string stored(data);
+    if (type == kRegSz && (stored.empty() || stored.back() != '\0')) stored += '\0';
+    return store_.setValue(*path, name, type, stored) ? kErrorSuccess : kErrorAccessDenied;
 }
 
 long PosixHost::regCloseKey(RegistryKey key) {

@@ -66,11 +66,22 @@ std::unique_ptr<FileReader> Win32Host::openForReading(const std::string& path) {
 }
 
 bool Win32Host::copyFile(const std::string& from, const std::string& to) {
+    // Windows refuses to overwrite a read-only file; wine does not, so the rule is kept here.
+    const DWORD target = GetFileAttributesA(toWindowsPath(to).c_str());
+    if (target != INVALID_FILE_ATTRIBUTES && (target & FILE_ATTRIBUTE_READONLY) != 0) return false;
     return CopyFileA(toWindowsPath(from).c_str(), toWindowsPath(to).c_str(), FALSE) != 0;
 }
 
 bool Win32Host::renameFile(const std::string& from, const std::string& to) {
-    return MoveFileA(toWindowsPath(from).c_str(), toWindowsPath(to).c_str()) != 0;
+    const std::string source = toWindowsPath(from), target = toWindowsPath(to);
+    if (!equalsIgnoringCase(source, target) || source == target)
+        return MoveFileA(source.c_str(), target.c_str()) != 0;
+    // A change of case only goes through a second name, which wine needs to show the new case.
+    const std::string step = source + ".~case";
+    if (MoveFileA(source.c_str(), step.c_str()) == 0) return false;
+    if (MoveFileA(step.c_str(), target.c_str()) != 0) return true;
+    MoveFileA(step.c_str(), source.c_str());
+    return false;
 }
 
 bool Win32Host::deleteFile(const std::string& path) {

@@ -36,9 +36,9 @@ TEST(KeyStoreFile, KeepsValuesAcrossHostsAndReadsADamagedFileAsEmptyUntilTheNext
     ASSERT_EQ(openKey(restarted, kHkeyCurrentUser, "software\\orvanta\\SETTINGS", reopened), kErrorSuccess)
         << "the store outlives its host";
     std::uint32_t type = kRegNone;
-    std::string value(6, ' ');
+    std::string value(7, ' ');
     ASSERT_EQ(restarted.regQueryValue(reopened, "Name", type, value), kErrorSuccess);
-    EXPECT_EQ(value, std::string("a\nb \0=", 6)) << "REG_SZ may hold any byte";
+    EXPECT_EQ(value, std::string("a\nb \0=\0", 7)) << "REG_SZ may hold any byte, and gets its NUL";
     EXPECT_EQ(box.readFile("data\\registry.store").find("Orvanta"), std::string::npos) << "names are encoded";
 
     std::string damaged = box.readFile("data\\registry.store");
