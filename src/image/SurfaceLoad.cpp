@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "image/ZlibLibrary.h"
 #include "image/c32bppDIB.h"
 #include "image/cBMPparser.h"
 #include "image/cGIFparser.h"
@@ -10,11 +11,6 @@
 #if __has_include("image/cPNGparser.h")
 #include "image/cPNGparser.h"
 #define ORVANTA_SURFACE_PNG 1
-#endif
-// PENDING: likewise the run-time zlib loader.
-#if __has_include("image/ZlibLibrary.h")
-#include "image/ZlibLibrary.h"
-#define ORVANTA_SURFACE_ZLIB 1
 #endif
 
 namespace orvanta {
@@ -91,11 +87,7 @@ bool c32bppDIB::LoadPicture_FromOrignalFormat(std::int32_t iconCx, std::int32_t 
 }
 
 bool c32bppDIB::isZlibEnabled() const {
-#ifdef ORVANTA_SURFACE_ZLIB
     return ZlibLibrary::available();
-#else
-    return false;
-#endif
 }
 
 bool c32bppDIB::GetOrginalFormat(std::vector<std::uint8_t>& receiver) const {
