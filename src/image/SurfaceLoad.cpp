@@ -5,13 +5,8 @@
 #include "image/cBMPparser.h"
 #include "image/cGIFparser.h"
 #include "image/cICOparser.h"
-#include "platform/SystemImageCodec.h"
-
-// PENDING: the PNG reader is being written; until its header is in the tree the PNG step declines.
-#if __has_include("image/cPNGparser.h")
 #include "image/cPNGparser.h"
-#define ORVANTA_SURFACE_PNG 1
-#endif
+#include "platform/SystemImageCodec.h"
 
 namespace orvanta {
 
@@ -20,15 +15,9 @@ namespace {
 // Anything this short is no picture the engine reads; no parser sees it.
 constexpr std::size_t kShortestRun = 57;
 
-bool loadPng(std::span<const std::uint8_t> bytes, c32bppDIB& surface) {
-#ifdef ORVANTA_SURFACE_PNG
-    cPNGparser parser;
-    return parser.LoadStream(bytes, surface) && surface.Handle() != 0;
-#else
-    (void)bytes;
-    (void)surface;
-    return false;
-#endif
+// A damaged PNG ends the load: once the signature matched no other reader is asked.
+bool isPng(std::span<const std::uint8_t> bytes, c32bppDIB& surface) {
+    return cPNGparser().LoadStream(bytes, surface);
 }
 
 // JPEG and what else the host's codec reads; its pixels come straight and go through the alpha check.
@@ -104,7 +93,12 @@ bool c32bppDIB::loadBytes(std::span<const std::uint8_t> bytes, std::int32_t icon
     iconCx = std::max(iconCx, 0);
     iconCy = std::max(iconCy, 0);
     if (iconBitDepth < 0 || iconBitDepth > 32) iconBitDepth = 32;
-    bool loaded = loadPng(bytes, *this) || cGIFparser().LoadStream(bytes, *this) ||
+    if (isPng(bytes, *this)) {
+        if (Handle() == 0) return false;
+        if (saveFormat) originalBytes_.assign(bytes.begin(), bytes.end());
+        return true;
+    }
+    bool loaded = cGIFparser().LoadStream(bytes, *this) ||
                   cICOparser().LoadStream(bytes, iconCx, iconCy, *this, iconBitDepth) ||
                   cBMPparser().LoadStream(bytes, *this);
     bool fromSystemCodec = false;

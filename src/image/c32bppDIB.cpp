@@ -42,8 +42,8 @@ bool c32bppDIB::InitializeDIB(std::int32_t width, std::int32_t height) {
     if (width < 0 || height == 0) return false;
     if (height < 0) height = -height;
     const std::uint64_t bytes = static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 4;
-    // The same bound the readers apply: width * 32 * height must fit a signed 32-bit number.
-    if (width == 0 || bytes > 0x7FFFFFFFu / 8) return false;
+    // The PNG reader's bound: width * 32 * height must not pass 2^31.
+    if (width == 0 || bytes * 8 > 0x80000000u) return false;
     pixels_.assign(static_cast<std::size_t>(bytes), 0);
     width_ = width;
     height_ = height;

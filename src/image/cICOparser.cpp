@@ -3,11 +3,7 @@
 #include "image/DibHeader.h"
 #include "image/IconBitmap.h"
 #include "image/RasterBytes.h"
-
-#if __has_include("image/cPNGparser.h")
 #include "image/cPNGparser.h"
-#define ORVANTA_ICON_PNG 1
-#endif
 
 namespace orvanta {
 
@@ -23,14 +19,8 @@ constexpr std::uint32_t kPngSignature2 = 0x0A1A0A0D;
 constexpr std::uint32_t kIhdr = 0x49484452;
 
 bool loadPngEntry(ByteRun data, c32bppDIB& surface) {
-#ifdef ORVANTA_ICON_PNG
     cPNGparser parser;
     return parser.LoadStream(data, surface) && surface.Handle() != 0;
-#else
-    (void)data;
-    (void)surface;
-    return false;
-#endif
 }
 
 bool startsWithPng(ByteRun data) {
