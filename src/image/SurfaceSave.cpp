@@ -1,12 +1,7 @@
 #include <cstring>
 
 #include "image/c32bppDIB.h"
-
-// PENDING: the PNG writer is being written; until its header is in the tree no PNG is made.
-#if __has_include("image/cPNGwriter.h")
 #include "image/cPNGwriter.h"
-#define ORVANTA_SURFACE_PNG_WRITER 1
-#endif
 
 namespace orvanta {
 
@@ -58,13 +53,10 @@ bool c32bppDIB::SaveToStream(std::vector<std::uint8_t>& receiver) const {
 bool c32bppDIB::SaveToStream_PNG(std::vector<std::uint8_t>& receiver) {
     receiver.clear();
     if (pixels_.empty()) return false;
-#ifdef ORVANTA_SURFACE_PNG_WRITER
+    // The host's codec writes no PNG here, so the owner's writer, or a fresh one, is the only engine.
     if (pngWriter_ != nullptr) return pngWriter_->SaveToStream(*this, receiver) && !receiver.empty();
     cPNGwriter writer;
     return writer.SaveToStream(*this, receiver) && !receiver.empty();
-#else
-    return false;
-#endif
 }
 
 }  // namespace orvanta
