@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
 
+#include "image/RenderPixels.h"
 #include "image/c32bppDIB.h"
 #include "surface_test_support.h"
 
@@ -209,6 +211,34 @@ TEST(DropShadow, BoxAverageSpreadsDepthPixelsEachWay) {
     fillSurface(target, 3, 3, std::vector<std::uint32_t>(9, 0));
     EXPECT_TRUE(source.RenderDropShadow_JIT(nullptr, 0, 0, 1, 0xFFFFFF, 100, &target));
     EXPECT_EQ(allWords(target), allWords(*shadow));
+}
+
+}  // namespace
+}  // namespace orvanta::testing
+
+namespace orvanta::testing {
+namespace {
+
+// The scaler's loop over inner pixels must give exactly what the one-pixel sampler gives.
+TEST(RenderRules, BilinearScalerAgreesWithItsSampler) {
+    std::vector<std::uint8_t> pixels(37 * 23 * 4);
+    for (std::size_t i = 0; i < pixels.size(); ++i)
+        pixels[i] = static_cast<std::uint8_t>(i * 2654435761u >> 13);
+    const PixelView source{pixels.data(), 37, 23};
+    for (const auto& [w, h] : {std::pair{17, 11}, std::pair{50, 40}, std::pair{37, 23}}) {
+        const SourceRect rect{3, 2, 30, 19};
+        PixelBlock out;
+        ASSERT_TRUE(scalePixels(source, rect, w, h, true, out));
+        const double xRatio = 30.0 / w, yRatio = 19.0 / h;
+        for (std::int32_t y = 0; y < h; ++y) {
+            for (std::int32_t x = 0; x < w; ++x) {
+                std::uint8_t expected[4];
+                bilinearSample(source, yRatio * y + (23 - 2 - 19), xRatio * x + 3, 33, expected);
+                ASSERT_EQ(0, std::memcmp(expected, &out.pixels[static_cast<std::size_t>(y * w + x) * 4], 4))
+                    << w << "x" << h << " at " << x << "," << y;
+            }
+        }
+    }
 }
 
 }  // namespace
