@@ -167,7 +167,8 @@ bool fillPicture(const std::vector<std::uint8_t>& bytes, std::int32_t width, std
     if (!surface.InitializeDIB(width, height)) return false;
     std::memcpy(surface.BitsPointer(), bytes.data(), bytes.size());
     std::int32_t type = surface.ImageType();
-    surface.setAlpha(validateAlpha({surface.BitsPointer(), bytes.size()}, false, type));
+    // A container may hold straight colours: they are premultiplied, as every surface must be.
+    surface.setAlpha(validateAlpha({surface.BitsPointer(), bytes.size()}, true, type));
     surface.setImageType(type);
     return true;
 }
