@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "image/cGIFparser.h"
+
+namespace orvanta {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// A plain GIF LZW encoder, so that the decoder meets real dictionary codes, a full table and the
+// string-not-yet-in-the-table case.
+class LzwEncoder {
+public:
+    explicit LzwEncoder(int minimumCodeSize) : minimum_(minimumCodeSize) {}
+
+    Bytes encode(const Bytes& indexes) {
+        const std::uint32_t clear = 1u << minimum_;
+        reset();
+        put(clear);
+        std::uint32_t prefix = indexes[0];
+        for (std::size_t i = 1; i < indexes.size(); ++i) {
+            const auto key = std::make_pair(prefix, indexes[i]);
+            if (auto found = table_.find(key); found != table_.end()) {
+                prefix = found->second;
+                continue;
+            }
+            put(prefix);
+            if (next_ < 4096) table_[key] = next_++;
+            if (next_ > (1u << bits_) && bits_ < 12) ++bits_;
+            prefix = indexes[i];
+        }
+        put(prefix);
+        put(clear + 1);
+        if (count_ > 0) out_.push_back(static_cast<std::uint8_t>(buffer_));
+        return out_;
+    }
+
+private:
+    void reset() {
+        table_.clear();
+        next_ = (1u << minimum_) + 2;
+        bits_ = minimum_ + 1;
+    }
+    void put(std::uint32_t code) {
+        buffer_ |= code << count_;
+        count_ += bits_;
+        while (count_ >= 8) {
+            out_.push_back(static_cast<std::uint8_t>(buffer_));
+            buffer_ >>= 8;
+            count_ -= 8;
+        }
+    }
+
+    int minimum_;
+    int bits_ = 0;
+    std::uint32_t next_ = 0;
+    std::map<std::pair<std::uint32_t, std::uint8_t>, std::uint32_t> table_;
+    Bytes out_;
+    std::uint32_t buffer_ = 0;
+    int count_ = 0;
+};
+
+struct GifSpec {
+    std::string signature = "GIF89a";
+    int screenWidth = 0, screenHeight = 0;
+    Bytes globalTable;  // rgb triples, a power of two of them
+    Bytes localTable;
+    int width = 0, height = 0;
+    bool interlaced = false;
+    int transparent = -1;
+    int minimumCodeSize = 2;
+    Bytes indexes;  // top-down, in picture order
+};
+
+void putLe16(Bytes& out, int value) {
+    out.push_back(static_cast<std::uint8_t>(value));
+    out.push_back(static_cast<std::uint8_t>(value >> 8));
+}
+
+std::uint8_t tableFlags(const Bytes& table) {
+    if (table.empty()) return 0;
+    int bits = 0;
+    while ((2u << bits) < table.size() / 3) ++bits;
+    return static_cast<std::uint8_t>(0x80 | bits);
+}
+
+Bytes interlacedOrder(const GifSpec& spec) {
+    Bytes rows;
+    const int starts[4] = {0, 4, 2, 1}, steps[4] = {8, 8, 4, 2};
+    for (int pass = 0; pass < 4; ++pass)
+        for (int y = starts[pass]; y < spec.height; y += steps[pass])
+            rows.insert(rows.end(), spec.indexes.begin() + y * spec.width,
+                        spec.indexes.begin() + (y + 1) * spec.width);
+    return rows;
+}
+
+void putSubBlocks(Bytes& out, const Bytes& data) {
+    for (std::size_t at = 0; at < data.size(); at += 255) {
+        const std::size_t length = std::min<std::size_t>(255, data.size() - at);
+        out.push_back(static_cast<std::uint8_t>(length));
+        out.insert(out.end(), data.begin() + static_cast<std::ptrdiff_t>(at),
+                   data.begin() + static_cast<std::ptrdiff_t>(at + length));
+    }
+    out.push_back(0);
+}
+
+Bytes makeGif(const GifSpec& spec) {
+    Bytes out(spec.signature.begin(), spec.signature.end());
+    putLe16(out, spec.screenWidth ? spec.screenWidth : spec.width);
+    putLe16(out, spec.screenHeight ? spec.screenHeight : spec.height);
+    out.insert(out.end(), {tableFlags(spec.globalTable), 0, 0});
+    out.insert(out.end(), spec.globalTable.begin(), spec.globalTable.end());
+    // An application block (looping) and a comment come before the frame, as in animated files.
+    out.insert(out.end(),
+               {0x21, 0xFF, 11, 'N', 'E', 'T', 'S', 'C', 'A', 'P', 'E', '2', '.', '0', 3, 1, 0, 0, 0});
+    out.insert(out.end(), {0x21, 0xFE, 2, 'h', 'i', 0});
+    if (spec.transparent >= 0)
+        out.insert(out.end(), {0x21, 0xF9, 4, 1, 0, 0, static_cast<std::uint8_t>(spec.transparent), 0});
+    out.push_back(0x2C);
+    putLe16(out, 0);
+    putLe16(out, 0);
+    putLe16(out, spec.width);
+    putLe16(out, spec.height);
+    out.push_back(static_cast<std::uint8_t>(tableFlags(spec.localTable) | (spec.interlaced ? 0x40 : 0)));
+    out.insert(out.end(), spec.localTable.begin(), spec.localTable.end());
+    out.push_back(static_cast<std::uint8_t>(spec.minimumCodeSize));
+    putSubBlocks(
+        out, LzwEncoder(spec.minimumCodeSize).encode(spec.interlaced ? interlacedOrder(spec) : spec.indexes));
+    out.push_back(0x3B);
+    return out;
+}
+
+const Bytes kFourColours = {255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255};
+
+// The colour GetPixel reports for an index of a table of rgb triples.
+std::int32_t colourOf(const Bytes& table, std::uint8_t index) {
+    return table[index * 3u] | table[index * 3u + 1] << 8 | table[index * 3u + 2] << 16;
+}
+
+void expectIndexes(const c32bppDIB& surface, const GifSpec& spec, const Bytes& table) {
+    ASSERT_EQ(surface.Width(), spec.width);
+    ASSERT_EQ(surface.Height(), spec.height);
+    for (int y = 0; y < spec.height; ++y) {
+        for (int x = 0; x < spec.width; ++x) {
+            const std::uint8_t index = spec.indexes[static_cast<std::size_t>(y * spec.width + x)];
+            std::uint8_t alpha = 0;
+            const std::int32_t colour = surface.GetPixel(x, y, &alpha);
+            if (index == spec.transparent) {
+                EXPECT_EQ(colour, 0) << x << "," << y;
+                EXPECT_EQ(alpha, 0) << x << "," << y;
+            } else {
+                EXPECT_EQ(colour, colourOf(table, index)) << x << "," << y;
+                EXPECT_EQ(alpha, 255) << x << "," << y;
+            }
+        }
+    }
+}
+
+GifSpec smallPicture(int width, int height) {
+    GifSpec spec;
+    spec.globalTable = kFourColours;
+    spec.width = width;
+    spec.height = height;
+    for (int i = 0; i < width * height; ++i)
+        spec.indexes.push_back(static_cast<std::uint8_t>((i * 7 / 3) % 4));
+    return spec;
+}
+
+TEST(GifReader, FirstFrameSmallerThanTheScreenLoadsAtTheFramesSize) {
+    GifSpec spec = smallPicture(5, 3);
+    spec.screenWidth = 40;
+    spec.screenHeight = 30;
+    c32bppDIB surface;
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
+    expectIndexes(surface, spec, kFourColours);
+    EXPECT_FALSE(surface.Alpha());
+    EXPECT_EQ(surface.ImageType(), kImageGif);
+}
+
+TEST(GifReader, SignatureIsReadWithoutRegardToCase) {
+    for (const char* signature : {"GIF89A", "gif87a", "GiF87A"}) {
+        GifSpec spec = smallPicture(3, 2);
+        spec.signature = signature;
+        c32bppDIB surface;
+        EXPECT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface)) << signature;
+    }
+    GifSpec spec = smallPicture(3, 2);
+    spec.signature = "GIF88a";
+    c32bppDIB surface;
+    EXPECT_FALSE(cGIFparser().LoadStream(makeGif(spec), surface));
+}
+
+TEST(GifReader, TransparentIndexLeavesItsPixelsZeroAndSetsAlpha) {
+    GifSpec spec = smallPicture(6, 4);
+    spec.transparent = 2;
+    c32bppDIB surface;
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
+    expectIndexes(surface, spec, kFourColours);
+    EXPECT_TRUE(surface.Alpha());
+    EXPECT_EQ(surface.ImageType(), kImageGif);
+}
+
+TEST(GifReader, LocalTableWinsOverTheGlobalOne) {
+    GifSpec spec = smallPicture(4, 4);
+    spec.localTable = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+    c32bppDIB surface;
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
+    expectIndexes(surface, spec, spec.localTable);
+}
+
+TEST(GifReader, InterlacedRowsLandInPictureOrder) {
+    for (int height : {1, 2, 5, 9, 17}) {
+        GifSpec spec = smallPicture(3, height);
+        spec.interlaced = true;
+        c32bppDIB surface;
+        ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface)) << height;
+        expectIndexes(surface, spec, kFourColours);
+    }
+}
+
+TEST(GifReader, LongNoisyFrameFillsTheCodeTableAndStillDecodes) {
+    GifSpec spec;
+    spec.minimumCodeSize = 8;
+    for (int i = 0; i < 256; ++i)
+        spec.globalTable.insert(spec.globalTable.end(),
+                                {std::uint8_t(i), std::uint8_t(255 - i), std::uint8_t(i / 2)});
+    spec.width = 200;
+    spec.height = 150;
+    std::mt19937 random(7);
+    for (int i = 0; i < spec.width * spec.height; ++i)
+        // Noise for a full table, runs for codes that name the string being built.
+        spec.indexes.push_back(
+            static_cast<std::uint8_t>(i % 500 < 250 ? random() % 256 : static_cast<unsigned>(i / 40) % 3));
+    c32bppDIB surface;
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
+    expectIndexes(surface, spec, spec.globalTable);
+}
+
+TEST(GifReader, TruncatedOrDamagedCodeStreamFailsWithAnEmptySurface) {
+    const Bytes whole = makeGif(smallPicture(30, 20));
+    for (std::size_t cut = 6; cut + 2 < whole.size(); ++cut) {
+        const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(cut));
+        c32bppDIB surface;
+        EXPECT_FALSE(cGIFparser().LoadStream(part, surface)) << cut;
+        EXPECT_EQ(surface.Handle(), 0u);
+    }
+    // A first code that is neither a clear code nor a literal.
+    Bytes frame = makeGif(smallPicture(2, 2));
+    const Bytes descriptor = {0x2C, 0, 0, 0, 0, 2, 0, 2, 0};
+    const auto at =
+        std::search(frame.begin(), frame.end(), descriptor.begin(), descriptor.end()) - frame.begin();
+    frame[static_cast<std::size_t>(at) + 12] = 4 | 7 << 3;  // clear (4), then 7, three bits each
+    c32bppDIB surface;
+    EXPECT_FALSE(cGIFparser().LoadStream(frame, surface));
+    EXPECT_EQ(surface.Handle(), 0u);
+}
+
+TEST(GifReader, NotAGifIsDeclinedAndTheSurfaceKept) {
+    c32bppDIB surface;
+    ASSERT_TRUE(surface.InitializeDIB(2, 2));
+    const Bytes png = {0x89, 'P', 'N', 'G', 13, 10, 26, 10, 0, 0, 0, 0, 0, 0};
+    EXPECT_FALSE(cGIFparser().LoadStream(png, surface));
+    EXPECT_NE(surface.Handle(), 0u);
+}
+
+}  // namespace
+}  // namespace orvanta
