@@ -13,6 +13,10 @@ ListViewDelegate::ListViewDelegate(ctlListView& owner) : QStyledItemDelegate(&ow
 void ListViewDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
     QStyleOptionViewItem cell(option);
+    // Cells take the alignment of their column's header.
+    if (const QTreeWidget* view = owner_.hwnd())
+        if (const int alignment = view->headerItem()->textAlignment(index.column()); alignment != 0)
+            cell.displayAlignment = Qt::Alignment::fromInt(static_cast<unsigned>(alignment));
     QColor fore = cell.palette.color(QPalette::Text);
     QColor back;
     emit owner_.OnSubItemPrePaint(index.row(), index.column(), fore, back);
