@@ -201,6 +201,25 @@ TEST_F(ListView, OwnerColoursAreAskedForEachCell) {
     EXPECT_EQ(picture.pixelColor(inside), QColor(Qt::yellow));
 }
 
+TEST(ListViewBeforeCreation, KeepsSettingsForTheViewAndIgnoresItems) {
+    testing::ScriptedDialogs dialogs;
+    ctlListView list(dialogs);
+    list.setCheckboxes(true);
+    list.setMultiSelect(true);
+    list.setView(LVS_REPORT);
+    list.ListItemsAdd(0, "lost");
+    list.ColumnHeadersAdd("lost", 50);
+    EXPECT_EQ(list.hwnd(), nullptr);
+    EXPECT_EQ(list.ListItemsCount(), 0);
+    EXPECT_EQ(list.SelectedItemIndex(), -1);
+    list.show();
+    ASSERT_NE(list.hwnd(), nullptr);
+    EXPECT_EQ(list.hwnd()->selectionMode(), QAbstractItemView::ExtendedSelection);
+    EXPECT_EQ(list.ColumnHeadersCount(), 0);
+    list.ListItemsAdd(0, "kept");
+    EXPECT_EQ(list.hwnd()->topLevelItem(0)->checkState(0), Qt::Unchecked);
+}
+
 TEST(ListViewStyle, EachPropertyIsItsBit) {
     ListViewStyle style;
     EXPECT_FALSE(style.MultiSelect());
