@@ -23,7 +23,7 @@ void ListViewDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     if (back.isValid()) painter->fillRect(cell.rect, back);
     cell.palette.setColor(QPalette::Text, fore);
     QStyledItemDelegate::paint(painter, cell, index);
-    if (owner_.style().GridLines()) {
+    if (owner_.listStyle().GridLines()) {
         painter->save();
         painter->setPen(option.palette.color(QPalette::Mid));
         painter->drawLine(cell.rect.bottomLeft(), cell.rect.bottomRight());

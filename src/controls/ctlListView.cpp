@@ -1,7 +1,10 @@
 #include "controls/ctlListView.h"
 
 #include <QEvent>
+#include <QFileIconProvider>
+#include <QFileInfo>
 #include <QHeaderView>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "controls/ListViewDelegate.h"
@@ -247,12 +250,25 @@ void ctlListView::sortNow() {
 void ctlListView::InitializeImageListSmall(int width, int height) {
     smallImageSize_ = QSize(width, height);
     smallImages_.clear();
+    fileTypeImages_.clear();
     if (view_) view_->setIconSize(smallImageSize_);
 }
 
 int ctlListView::ImageListSmallAdd(const QIcon& icon) {
     smallImages_.push_back(icon);
     return static_cast<int>(smallImages_.size()) - 1;
+}
+
+int ctlListView::SystemImageIndex(const std::string& fileName) {
+    const QString type = QFileInfo(toQString(fileName)).suffix().toLower();
+    for (const auto& [known, index] : fileTypeImages_)
+        if (known == type) return index;
+    QIcon icon = QFileIconProvider().icon(QFileInfo(QStringLiteral("file.") + type));
+    // Without an icon theme the provider knows no types; every file then gets the plain file icon.
+    if (icon.isNull()) icon = style()->standardIcon(QStyle::SP_FileIcon);
+    const int index = ImageListSmallAdd(icon);
+    fileTypeImages_.emplace_back(type, index);
+    return index;
 }
 
 }  // namespace orvanta

@@ -4,7 +4,6 @@
 // before that are kept and given to the view when it is made; an operation on items or columns
 // before it, or with an index out of range, does nothing and a read gives an empty answer.
 
-#include <QFont>
 #include <QFrame>
 #include <QIcon>
 #include <QPointer>
@@ -68,10 +67,13 @@ public:
     // ---- Small image list
     void InitializeImageListSmall(int width, int height);
     int ImageListSmallAdd(const QIcon& icon);  // the new image's index
+    // The index of the system's icon for the type of a file (".mp3", "setup.exe"), added to the
+    // small image list the first time a type is asked for.
+    int SystemImageIndex(const std::string& fileName);
 
     // ---- Settings
-    ListViewStyle& style() { return style_; }
-    const ListViewStyle& style() const { return style_; }
+    ListViewStyle& listStyle() { return style_; }
+    const ListViewStyle& listStyle() const { return style_; }
     // Gives the view the stored settings; every setter below calls it.
     void applySettings();
     void setView(int view);
@@ -88,8 +90,8 @@ public:
     bool Sorted() const { return sorted_; }
     void setSorted(bool on);
 
-    QFont Font() const { return font_; }
-    void setFont(const QFont& font);
+    // The control's own font (QWidget::setFont) reaches the view, made before or after it.
+    QFont Font() const { return font(); }
     QColor BackColor() const { return backColor_; }
     void setBackColor(const QColor& colour);
     QColor ForeColor() const { return foreColor_; }
@@ -140,7 +142,7 @@ private:
     bool sorted_ = false;
     QSize smallImageSize_;
     std::vector<QIcon> smallImages_;
-    QFont font_;
+    std::vector<std::pair<QString, int>> fileTypeImages_;
     QColor backColor_;
     QColor foreColor_;
     QColor textBackground_;

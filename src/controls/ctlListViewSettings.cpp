@@ -20,7 +20,6 @@ void ctlListView::applySettings() {
     view_->setMouseTracking(style_.HotTracking() || style_.HoverSelection());
     view_->setAttribute(Qt::WA_Hover, style_.HotTracking());
     if (smallImageSize_.isValid()) view_->setIconSize(smallImageSize_);
-    view_->QWidget::setFont(font_);
     for (int row = 0; row < view_->topLevelItemCount(); ++row) {
         QTreeWidgetItem* line = view_->topLevelItem(row);
         const bool checked = line->data(0, kReportedCheckRole).toBool();
@@ -92,11 +91,6 @@ void ctlListView::setHideColumnHeaders(bool on) {
 void ctlListView::setSorted(bool on) {
     sorted_ = on;
     if (on) sortNow();
-}
-
-void ctlListView::setFont(const QFont& font) {
-    font_ = font;
-    applySettings();
 }
 
 // The back colour is the text background as well, as the list view paints it.

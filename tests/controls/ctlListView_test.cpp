@@ -89,6 +89,17 @@ TEST_F(ListView, ItemsAddedWithAStateKeepIt) {
     EXPECT_EQ(list.ListItemsText(2), "last");
 }
 
+TEST_F(ListView, FileTypesShareOneImageEach) {
+    list.InitializeImageListSmall(16, 16);
+    const int music = list.SystemImageIndex(".mp3");
+    EXPECT_EQ(list.SystemImageIndex("C:\\songs\\Track.MP3"), music);
+    EXPECT_NE(list.SystemImageIndex("readme.txt"), music);
+    list.ListItemsAdd(0, "song", music);
+    EXPECT_FALSE(list.hwnd()->topLevelItem(0)->icon(0).isNull());
+    list.ListItemsAdd(1, "no picture", 99);
+    EXPECT_TRUE(list.hwnd()->topLevelItem(1)->icon(0).isNull());
+}
+
 TEST_F(ListView, OutOfRangeIndexesAreIgnoredAndReadEmpty) {
     addItems({"a"});
     list.ListItemsRemove(5);
@@ -218,6 +229,10 @@ TEST(ListViewBeforeCreation, KeepsSettingsForTheViewAndIgnoresItems) {
     EXPECT_EQ(list.ColumnHeadersCount(), 0);
     list.ListItemsAdd(0, "kept");
     EXPECT_EQ(list.hwnd()->topLevelItem(0)->checkState(0), Qt::Unchecked);
+    QFont bold = list.font();
+    bold.setBold(true);
+    list.setFont(bold);
+    EXPECT_TRUE(list.hwnd()->font().bold());
 }
 
 TEST(ListViewStyle, EachPropertyIsItsBit) {
