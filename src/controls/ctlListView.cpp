@@ -27,7 +27,7 @@ Qt::Alignment columnAlignment(int alignment) {
 }  // namespace
 
 ctlListView::ctlListView(Dialogs& dialogs, QWidget* parent)
-    : QFrame(parent), dialogs_(dialogs), subclass_(dialogs, "ctlListView") {
+    : QFrame(parent), subclass_(dialogs, "ctlListView") {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
 }
@@ -75,6 +75,8 @@ void ctlListView::destroy() {
     if (!view_) return;
     subclass_.sc_Terminate();
     delete view_;
+    delete delegate_;
+    delegate_ = nullptr;
     columns_ = 0;
 }
 

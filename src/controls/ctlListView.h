@@ -133,7 +133,6 @@ private:
     void applyColours();
     void shiftColumnsLeftFrom(int index);
 
-    Dialogs& dialogs_;
     cSubclass subclass_;
     QPointer<QTreeWidget> view_;
     ListViewDelegate* delegate_ = nullptr;

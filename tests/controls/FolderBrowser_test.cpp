@@ -24,7 +24,7 @@ TEST(BFFC, EmptyTitleAndFolderTakeTheDefaultsAndAMissingDriveTheFirstOne) {
     EXPECT_EQ(dialogs.folderBrowsers[0].initialFolder, "c:\\");
     EXPECT_EQ(dialogs.folderBrowsers[1].title, "Where to?");
     EXPECT_EQ(dialogs.folderBrowsers[1].initialFolder, firstDriveRoot(box.host()));
-    EXPECT_NE(firstDriveRoot(box.host()), "Q:\\");
+    EXPECT_EQ(firstDriveRoot(box.host()), "C:\\") << "the first drive there is";
 }
 
 TEST(BFFC, RecurseOnlyCountsWhenTheBoxWasShown) {

@@ -112,6 +112,7 @@ TEST_F(ListView, OutOfRangeIndexesAreIgnoredAndReadEmpty) {
     list.ListItemsClear();
     list.ListItemsClear();
     EXPECT_EQ(list.ListItemsCount(), 0);
+    EXPECT_EQ(list.hwnd()->headerItem()->text(0), "Name") << "the columns stay";
 }
 
 TEST_F(ListView, SubItemsFollowTheirColumnsWhenOneIsRemoved) {
