@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <functional>
 
+#include "controls/frmButton.h"
 #include "support/Sandbox.h"
 
 namespace orvanta {
@@ -82,6 +84,31 @@ TEST_F(QtDialogsTest, InputBoxGivesTheTextOrNothingWhenCancelled) {
         shown->reject();
     });
     EXPECT_EQ(dialogs.inputBox({"Name", "Create Folder", ""}), "");
+}
+
+TEST_F(QtDialogsTest, OpenFileSpeaksWindowsPathsAndShowsTheFilterAsQtWantsIt) {
+    box.writeFile("files\\setup.exe", "MZ");
+    QStringList filters;
+    whenOpen<QFileDialog>([&](QFileDialog* shown) {
+        filters = shown->nameFilters();
+        shown->selectFile(QString::fromStdString(box.hostRoot().string() + "/files/setup.exe"));
+        QMetaObject::invokeMethod(shown, "accept");
+    });
+    const std::string chosen = dialogs.openFile(
+        {"Executable files|*.exe;*.bat|All files|*.*", "*.exe,*.bat", box.windowsPath("files"), "Pick"});
+    EXPECT_EQ(chosen, box.windowsPath("files\\setup.exe"));
+    EXPECT_EQ(filters, QStringList({"Executable files (*.exe *.bat)", "All files (*.*)"}));
+}
+
+TEST_F(QtDialogsTest, FolderBrowserAnswersWithTheStartFolderWhenNothingElseIsChosen) {
+    box.makeFolder("start");
+    whenOpen<frmButton>([](frmButton* shown) { shown->accept(); });
+    const FolderBrowserAnswer answer =
+        dialogs.browseForFolder({"Pick", box.windowsPath("start"), true, false});
+    EXPECT_EQ(answer.folder, box.windowsPath("start"));
+    EXPECT_FALSE(answer.recurse);
+    whenOpen<frmButton>([](frmButton* shown) { shown->reject(); });
+    EXPECT_EQ(dialogs.browseForFolder({"Pick", box.windowsPath("start"), true, false}).folder, "");
 }
 
 }  // namespace
