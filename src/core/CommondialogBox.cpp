@@ -9,6 +9,21 @@ std::string toDialogFilter(std::string filter) {
     return filter;
 }
 
+std::vector<DialogFilterEntry> splitDialogFilter(const std::string& filter) {
+    std::vector<std::string> parts;
+    std::string::size_type start = 0;
+    while (start <= filter.size()) {
+        const auto bar = filter.find('|', start);
+        const auto end = bar == std::string::npos ? filter.size() : bar;
+        parts.push_back(filter.substr(start, end - start));
+        start = end + 1;
+    }
+    std::vector<DialogFilterEntry> entries;
+    for (std::size_t i = 0; i + 1 < parts.size(); i += 2)
+        if (!parts[i + 1].empty()) entries.push_back({parts[i], parts[i + 1]});
+    return entries;
+}
+
 OpenFileResult finishOpenFileResult(const std::string& chosen) {
     OpenFileResult result;
     result.path = chosen;
@@ -18,6 +33,12 @@ OpenFileResult finishOpenFileResult(const std::string& chosen) {
     const auto cut = result.path.rfind('\\');
     result.fileName = cut == std::string::npos ? result.path : result.path.substr(cut + 1);
     return result;
+}
+
+OpenFileResult openFileDialog(Dialogs& dialogs, const std::string& filter,
+                              const std::string& defaultExtensions, const std::string& initialFolder,
+                              const std::string& title) {
+    return finishOpenFileResult(dialogs.openFile({filter, defaultExtensions, initialFolder, title}));
 }
 
 }  // namespace orvanta

@@ -1,0 +1,131 @@
+// The control gallery: each control in its states, shown in a window, or with a folder as its
+// argument rendered into PNG files there (what scripts/screenshots does offscreen).
+#include <QApplication>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <functional>
+#include <memory>
+
+#include "controls/QtDialogs.h"
+#include "controls/about.h"
+#include "controls/ctlListView.h"
+#include "controls/ctlProgressBar.h"
+#include "controls/frmButton.h"
+#include "platform/Host.h"
+
+namespace orvanta {
+namespace {
+
+struct Shot {
+    QString name;
+    QWidget* widget;
+};
+
+void fillListView(ctlListView& list, int view) {
+    list.create();
+    list.setView(view);
+    list.setCheckboxes(true);
+    list.setGridLines(true);
+    list.setFullRowSelect(true);
+    list.ColumnHeadersAdd("Package", 150);
+    list.ColumnHeadersAdd("Folder", 150);
+    list.ColumnHeadersAdd("Size", 70, LVCFMT_RIGHT);
+    const char* rows[][3] = {{"Runtime libraries", "Program Files\\", "12 MB"},
+                             {"Sample projects", "User MyDocuments\\", "3 MB"},
+                             {"Themes", "Themes\\", "800 KB"},
+                             {"Help files", "<>", "1 MB"}};
+    for (const auto& row : rows) {
+        const int index = list.ListItemsCount();
+        list.ListItemsAdd(index, row[0]);
+        list.setSubItems(index, 1, row[1]);
+        list.setSubItems(index, 2, row[2]);
+    }
+    list.setItemChecked(0, true);
+    list.setItemChecked(2, true);
+    list.setListItemsSelected(1, true);
+    // The owner colours one cell, as a caller of the pre-paint event would.
+    QObject::connect(&list, &ctlListView::OnSubItemPrePaint,
+                     [](int item, int subItem, QColor& fore, QColor& back) {
+                         if (item == 3 && subItem == 2) {
+                             fore = Qt::white;
+                             back = QColor(0xc0, 0x39, 0x2b);
+                         }
+                     });
+}
+
+ctlProgressBar* progressBar(Dialogs& dialogs, int value, int scrolling, int state) {
+    auto* bar = new ctlProgressBar(dialogs);
+    bar->setScrolling(scrolling);
+    bar->setValue(value);
+    bar->setState(state);
+    bar->setFixedSize(260, 22);
+    return bar;
+}
+
+QWidget* progressBars(Dialogs& dialogs) {
+    auto* box = new QGroupBox(QStringLiteral("ctlProgressBar"));
+    auto* layout = new QVBoxLayout(box);
+    const auto add = [&](const char* caption, ctlProgressBar* bar) {
+        layout->addWidget(new QLabel(QString::fromLatin1(caption)));
+        layout->addWidget(bar);
+    };
+    add("Blocks, 40", progressBar(dialogs, 40, kScrollingStandard, kProgressStateNormal));
+    add("Smooth, 70", progressBar(dialogs, 70, kScrollingSmooth, kProgressStateNormal));
+    add("Error state", progressBar(dialogs, 55, kScrollingSmooth, kProgressStateError));
+    add("Paused state", progressBar(dialogs, 30, kScrollingSmooth, kProgressStatePaused));
+    auto* marquee = progressBar(dialogs, 0, kScrollingSmooth, kProgressStateNormal);
+    marquee->setMarquee(true);
+    add("Marquee", marquee);
+    return box;
+}
+
+void render(const std::vector<Shot>& shots, const QString& folder) {
+    QDir().mkpath(folder);
+    for (const Shot& shot : shots) {
+        shot.widget->show();
+        QApplication::processEvents();
+        const QString file = QDir(folder).filePath(shot.name + QStringLiteral(".png"));
+        if (!shot.widget->grab().save(file)) qWarning("could not write %s", qPrintable(file));
+    }
+}
+
+}  // namespace
+}  // namespace orvanta
+
+int main(int argc, char** argv) {
+    using namespace orvanta;
+    QApplication application(argc, argv);
+    // A host of its own, so the gallery never touches the user's settings or simulated drive.
+    QTemporaryDir data;
+    HostConfig config;
+    config.dataFolder = data.path().toStdString();
+    const std::unique_ptr<Host> host = createHost(config);
+    QtDialogs dialogs(*host);
+
+    ctlListView report(dialogs);
+    report.resize(400, 150);
+    fillListView(report, LVS_REPORT);
+    ctlListView list(dialogs);
+    list.resize(400, 150);
+    fillListView(list, LVS_LIST);
+    std::unique_ptr<QWidget> bars(progressBars(dialogs));
+    frmButton browser(*host, dialogs);
+    browser.prepare({"Choose the folder of the application files",
+                     host->toWindowsPath(QDir::homePath().toStdString()), true, true});
+    about aboutWindow(*host, dialogs);
+
+    const std::vector<Shot> shots{{"listview_report", &report},
+                                  {"listview_list", &list},
+                                  {"progressbar_states", bars.get()},
+                                  {"folder_browser", &browser},
+                                  {"about", &aboutWindow}};
+    if (argc > 1) {
+        render(shots, QString::fromLocal8Bit(argv[1]));
+        return 0;
+    }
+    for (const Shot& shot : shots) shot.widget->show();
+    return QApplication::exec();
+}
