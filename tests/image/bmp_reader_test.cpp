@@ -15,7 +15,7 @@ void putLe(Bytes& out, std::uint32_t value, int bytes) {
     for (int i = 0; i < bytes; ++i) out.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
 }
 
-struct BmpSpec {
+struct BmpRecipe {
     std::int32_t width = 0;
     std::int32_t height = 0;  // negative for top-down rows
     std::uint32_t bits = 24;
@@ -25,27 +25,27 @@ struct BmpSpec {
     Bytes data;                          // the pixel data as the file holds it
 };
 
-Bytes makeBmp(const BmpSpec& spec) {
+Bytes makeBmp(const BmpRecipe& recipe) {
     Bytes info;
     putLe(info, 40, 4);
-    putLe(info, static_cast<std::uint32_t>(spec.width), 4);
-    putLe(info, static_cast<std::uint32_t>(spec.height), 4);
+    putLe(info, static_cast<std::uint32_t>(recipe.width), 4);
+    putLe(info, static_cast<std::uint32_t>(recipe.height), 4);
     putLe(info, 1, 2);
-    putLe(info, spec.bits, 2);
-    putLe(info, spec.compression, 4);
-    putLe(info, static_cast<std::uint32_t>(spec.data.size()), 4);
+    putLe(info, recipe.bits, 2);
+    putLe(info, recipe.compression, 4);
+    putLe(info, static_cast<std::uint32_t>(recipe.data.size()), 4);
     putLe(info, 0, 4);  // horizontal and vertical resolution
     putLe(info, 0, 4);
-    putLe(info, static_cast<std::uint32_t>(spec.palette.size()), 4);
+    putLe(info, static_cast<std::uint32_t>(recipe.palette.size()), 4);
     putLe(info, 0, 4);
-    for (const std::uint32_t mask : spec.masks) putLe(info, mask, 4);
-    for (const std::uint32_t colour : spec.palette) putLe(info, colour, 4);
+    for (const std::uint32_t mask : recipe.masks) putLe(info, mask, 4);
+    for (const std::uint32_t colour : recipe.palette) putLe(info, colour, 4);
     Bytes file = {'B', 'M'};
-    putLe(file, static_cast<std::uint32_t>(14 + info.size() + spec.data.size()), 4);
+    putLe(file, static_cast<std::uint32_t>(14 + info.size() + recipe.data.size()), 4);
     putLe(file, 0, 4);
     putLe(file, static_cast<std::uint32_t>(14 + info.size()), 4);
     file.insert(file.end(), info.begin(), info.end());
-    file.insert(file.end(), spec.data.begin(), spec.data.end());
+    file.insert(file.end(), recipe.data.begin(), recipe.data.end());
     return file;
 }
 
@@ -113,10 +113,10 @@ std::vector<std::vector<std::uint32_t>> reversed(std::vector<std::vector<std::ui
 TEST(BmpReader, IndexedDepthsTakeTheirColoursFromTheTable) {
     for (const std::uint32_t bits : {1u, 2u, 4u, 8u}) {
         const auto fileRows = indexPattern(bits, 13, 5);  // 13 pixels: rows end inside a byte
-        BmpSpec spec{13, 5, bits, 0, kPalette, {}, packRows(bits, fileRows)};
-        spec.palette.resize(std::min<std::size_t>(kPalette.size(), 1u << bits));
+        BmpRecipe recipe{13, 5, bits, 0, kPalette, {}, packRows(bits, fileRows)};
+        recipe.palette.resize(std::min<std::size_t>(kPalette.size(), 1u << bits));
         c32bppDIB surface;
-        ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface)) << bits;
+        ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface)) << bits;
         auto expected = reversed(fileRows);
         for (auto& row : expected)
             for (auto& value : row) value = kPalette[value];
@@ -128,12 +128,12 @@ TEST(BmpReader, IndexedDepthsTakeTheirColoursFromTheTable) {
 
 TEST(BmpReader, SixteenBitsAsFiveFiveFiveAndAsBitFields) {
     // 5-5-5: a full field is 255, and 16 of 31 scales to 131.
-    BmpSpec plain{3, 1, 16, 0, {}, {}, packRows(16, {{0x7C00, 0x03E0, 0x0010}})};
+    BmpRecipe plain{3, 1, 16, 0, {}, {}, packRows(16, {{0x7C00, 0x03E0, 0x0010}})};
     c32bppDIB surface;
     ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(plain), surface));
     expectOpaque(surface, {{0xFF0000, 0x00FF00, 0x000083}});
     // 5-6-5 through bit fields, scaled the same way (32 of 63 is 129); a set top bit is not alpha here.
-    BmpSpec fields{3, 1, 16, 3, {}, {0xF800, 0x07E0, 0x001F}, packRows(16, {{0xF800, 0x07E0, 0x8410}})};
+    BmpRecipe fields{3, 1, 16, 3, {}, {0xF800, 0x07E0, 0x001F}, packRows(16, {{0xF800, 0x07E0, 0x8410}})};
     ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(fields), surface));
     expectOpaque(surface, {{0xFF0000, 0x00FF00, 0x838183}});
 }
@@ -141,12 +141,12 @@ TEST(BmpReader, SixteenBitsAsFiveFiveFiveAndAsBitFields) {
 TEST(BmpReader, TwentyFourBitsWithRowPaddingBottomUpAndTopDown) {
     const std::vector<std::vector<std::uint32_t>> fileRows = {{0x010203, 0x040506, 0x070809},
                                                               {0xFF0000, 0x00FF00, 0x0000FF}};
-    BmpSpec spec{3, 2, 24, 0, {}, {}, packRows(24, fileRows)};
+    BmpRecipe recipe{3, 2, 24, 0, {}, {}, packRows(24, fileRows)};
     c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface));
+    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
     expectOpaque(surface, reversed(fileRows));
-    spec.height = -2;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface));
+    recipe.height = -2;
+    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
     expectOpaque(surface, fileRows);
 }
 
@@ -179,9 +179,9 @@ TEST(BmpReader, ThirtyTwoBitsGoThroughTheAlphaCheck) {
          {0x80404040, 0x00000000}},
     };
     for (const auto& c : cases) {
-        BmpSpec spec{2, 1, 32, 0, {}, {}, packRows(32, {c.argb})};
+        BmpRecipe recipe{2, 1, 32, 0, {}, {}, packRows(32, {c.argb})};
         c32bppDIB surface;
-        ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface)) << c.name;
+        ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface)) << c.name;
         EXPECT_EQ(surface.ImageType(), c.type) << c.name;
         EXPECT_EQ(surface.Alpha(), c.alpha) << c.name;
         for (std::size_t i = 0; i < 2; ++i) {
@@ -194,10 +194,10 @@ TEST(BmpReader, ThirtyTwoBitsGoThroughTheAlphaCheck) {
 
 TEST(BmpReader, ThirtyTwoBitFieldsInAnotherOrder) {
     // Red in the low byte, alpha mask empty: the colours follow the masks and the picture is opaque.
-    BmpSpec spec{
+    BmpRecipe recipe{
         2, 1, 32, 3, {}, {0x000000FF, 0x0000FF00, 0x00FF0000}, packRows(32, {{0x000000FF, 0x00FF0000}})};
     c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface));
+    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
     expectOpaque(surface, {{0xFF0000, 0x0000FF}});
 }
 
@@ -205,7 +205,7 @@ TEST(BmpReader, RunLengthCodedEightAndFourBits) {
     // RLE8, 6x3 bottom-up: a run, an absolute run of 3 (padded), end of line; a delta to (2,2);
     // a run of 2; end of bitmap. What the data skip stays black.
     const Bytes rle8 = {4, 1, 0, 3, 2, 3, 4, 0, 0, 0, 0, 2, 2, 1, 2, 5, 0, 1};
-    BmpSpec spec8{6, 3, 8, 1, kPalette, {}, rle8};
+    BmpRecipe spec8{6, 3, 8, 1, kPalette, {}, rle8};
     c32bppDIB surface;
     ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec8), surface));
     const std::uint32_t k = 0, p1 = kPalette[1], p2 = kPalette[2], p3 = kPalette[3], p4 = kPalette[4],
@@ -213,13 +213,13 @@ TEST(BmpReader, RunLengthCodedEightAndFourBits) {
     expectOpaque(surface, {{k, k, p5, p5, k, k}, {k, k, k, k, k, k}, {p1, p1, p1, p1, p2, p3}});
     // RLE4, 5x2: a run alternating two nibbles, end of line, an absolute run of 3 in 2 bytes.
     const Bytes rle4 = {5, 0x12, 0, 0, 0, 3, 0x34, 0x50, 0, 1};
-    BmpSpec spec4{5, 2, 4, 2, kPalette, {}, rle4};
+    BmpRecipe spec4{5, 2, 4, 2, kPalette, {}, rle4};
     ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec4), surface));
     expectOpaque(surface, {{p3, p4, p5, k, k}, {p1, p2, p1, p2, p1}});
 }
 
 TEST(BmpReader, ShortOrOversizedFilesFailWithAnEmptySurface) {
-    const BmpSpec good{3, 2, 24, 0, {}, {}, packRows(24, {{1, 2, 3}, {4, 5, 6}})};
+    const BmpRecipe good{3, 2, 24, 0, {}, {}, packRows(24, {{1, 2, 3}, {4, 5, 6}})};
     const Bytes whole = makeBmp(good);
     for (std::size_t cut = 0; cut < whole.size(); ++cut) {
         c32bppDIB surface;
@@ -227,24 +227,24 @@ TEST(BmpReader, ShortOrOversizedFilesFailWithAnEmptySurface) {
         EXPECT_EQ(surface.Handle(), 0u);
     }
     // A picture far beyond the surface's bound is refused from its header alone.
-    BmpSpec huge = good;
+    BmpRecipe huge = good;
     huge.width = huge.height = 1 << 20;
     c32bppDIB surface;
     EXPECT_FALSE(cBMPparser().LoadStream(makeBmp(huge), surface));
     // JPEG inside a bitmap and an 8-bit file claiming bit fields are not read.
-    BmpSpec jpeg = good;
+    BmpRecipe jpeg = good;
     jpeg.compression = 4;
     EXPECT_FALSE(cBMPparser().LoadStream(makeBmp(jpeg), surface));
-    BmpSpec fields8{2, 1, 8, 3, kPalette, {1, 2, 4}, packRows(8, {{0, 1}})};
+    BmpRecipe fields8{2, 1, 8, 3, kPalette, {1, 2, 4}, packRows(8, {{0, 1}})};
     EXPECT_FALSE(cBMPparser().LoadStream(makeBmp(fields8), surface));
     EXPECT_EQ(surface.Handle(), 0u);
 }
 
 TEST(BmpReader, RunLengthDataCutShortKeepsWhatCame) {
     const Bytes rle8 = {2, 1, 0, 5, 2};  // an absolute run of 5 with only one byte left
-    BmpSpec spec{3, 1, 8, 1, kPalette, {}, rle8};
+    BmpRecipe recipe{3, 1, 8, 1, kPalette, {}, rle8};
     c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec), surface));
+    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
     expectOpaque(surface, {{kPalette[1], kPalette[1], 0}});
 }
 

@@ -43,10 +43,10 @@ std::map<std::string, std::vector<Bytes>> seeds() {
     const PngHeader headers[] = {
         {16, 16, 8, 6, 0}, {13, 9, 8, 2, 1}, {9, 7, 1, 0, 0}, {9, 7, 4, 3, 1}, {5, 5, 16, 4, 0}};
     for (const PngHeader& header : headers) {
-        PngSpec spec;
-        spec.header = header;
-        if (header.colorType == 3) spec.palette = randomPalette(16, 3), spec.transparency = {0, 0x80};
-        pngs.push_back(makePng(spec));
+        PngRecipe recipe;
+        recipe.header = header;
+        if (header.colorType == 3) recipe.palette = randomPalette(16, 3), recipe.transparency = {0, 0x80};
+        pngs.push_back(makePng(recipe));
     }
     out["png_with_zlib"] = out["png_without_zlib"] = pngs;
     for (const Bytes& png : pngs) {

@@ -67,7 +67,7 @@ private:
     int count_ = 0;
 };
 
-struct GifSpec {
+struct GifRecipe {
     std::string signature = "GIF89a";
     int screenWidth = 0, screenHeight = 0;
     Bytes globalTable;  // rgb triples, a power of two of them
@@ -91,13 +91,13 @@ std::uint8_t tableFlags(const Bytes& table) {
     return static_cast<std::uint8_t>(0x80 | bits);
 }
 
-Bytes interlacedOrder(const GifSpec& spec) {
+Bytes interlacedOrder(const GifRecipe& recipe) {
     Bytes rows;
     const int starts[4] = {0, 4, 2, 1}, steps[4] = {8, 8, 4, 2};
     for (int pass = 0; pass < 4; ++pass)
-        for (int y = starts[pass]; y < spec.height; y += steps[pass])
-            rows.insert(rows.end(), spec.indexes.begin() + y * spec.width,
-                        spec.indexes.begin() + (y + 1) * spec.width);
+        for (int y = starts[pass]; y < recipe.height; y += steps[pass])
+            rows.insert(rows.end(), recipe.indexes.begin() + y * recipe.width,
+                        recipe.indexes.begin() + (y + 1) * recipe.width);
     return rows;
 }
 
@@ -111,28 +111,28 @@ void putSubBlocks(Bytes& out, const Bytes& data) {
     out.push_back(0);
 }
 
-Bytes makeGif(const GifSpec& spec) {
-    Bytes out(spec.signature.begin(), spec.signature.end());
-    putLe16(out, spec.screenWidth ? spec.screenWidth : spec.width);
-    putLe16(out, spec.screenHeight ? spec.screenHeight : spec.height);
-    out.insert(out.end(), {tableFlags(spec.globalTable), 0, 0});
-    out.insert(out.end(), spec.globalTable.begin(), spec.globalTable.end());
+Bytes makeGif(const GifRecipe& recipe) {
+    Bytes out(recipe.signature.begin(), recipe.signature.end());
+    putLe16(out, recipe.screenWidth ? recipe.screenWidth : recipe.width);
+    putLe16(out, recipe.screenHeight ? recipe.screenHeight : recipe.height);
+    out.insert(out.end(), {tableFlags(recipe.globalTable), 0, 0});
+    out.insert(out.end(), recipe.globalTable.begin(), recipe.globalTable.end());
     // An application block (looping) and a comment come before the frame, as in animated files.
     out.insert(out.end(),
                {0x21, 0xFF, 11, 'N', 'E', 'T', 'S', 'C', 'A', 'P', 'E', '2', '.', '0', 3, 1, 0, 0, 0});
     out.insert(out.end(), {0x21, 0xFE, 2, 'h', 'i', 0});
-    if (spec.transparent >= 0)
-        out.insert(out.end(), {0x21, 0xF9, 4, 1, 0, 0, static_cast<std::uint8_t>(spec.transparent), 0});
+    if (recipe.transparent >= 0)
+        out.insert(out.end(), {0x21, 0xF9, 4, 1, 0, 0, static_cast<std::uint8_t>(recipe.transparent), 0});
     out.push_back(0x2C);
     putLe16(out, 0);
     putLe16(out, 0);
-    putLe16(out, spec.width);
-    putLe16(out, spec.height);
-    out.push_back(static_cast<std::uint8_t>(tableFlags(spec.localTable) | (spec.interlaced ? 0x40 : 0)));
-    out.insert(out.end(), spec.localTable.begin(), spec.localTable.end());
-    out.push_back(static_cast<std::uint8_t>(spec.minimumCodeSize));
-    putSubBlocks(
-        out, LzwEncoder(spec.minimumCodeSize).encode(spec.interlaced ? interlacedOrder(spec) : spec.indexes));
+    putLe16(out, recipe.width);
+    putLe16(out, recipe.height);
+    out.push_back(static_cast<std::uint8_t>(tableFlags(recipe.localTable) | (recipe.interlaced ? 0x40 : 0)));
+    out.insert(out.end(), recipe.localTable.begin(), recipe.localTable.end());
+    out.push_back(static_cast<std::uint8_t>(recipe.minimumCodeSize));
+    putSubBlocks(out, LzwEncoder(recipe.minimumCodeSize)
+                          .encode(recipe.interlaced ? interlacedOrder(recipe) : recipe.indexes));
     out.push_back(0x3B);
     return out;
 }
@@ -144,15 +144,15 @@ std::int32_t colourOf(const Bytes& table, std::uint8_t index) {
     return table[index * 3u] | table[index * 3u + 1] << 8 | table[index * 3u + 2] << 16;
 }
 
-void expectIndexes(const c32bppDIB& surface, const GifSpec& spec, const Bytes& table) {
-    ASSERT_EQ(surface.Width(), spec.width);
-    ASSERT_EQ(surface.Height(), spec.height);
-    for (int y = 0; y < spec.height; ++y) {
-        for (int x = 0; x < spec.width; ++x) {
-            const std::uint8_t index = spec.indexes[static_cast<std::size_t>(y * spec.width + x)];
+void expectIndexes(const c32bppDIB& surface, const GifRecipe& recipe, const Bytes& table) {
+    ASSERT_EQ(surface.Width(), recipe.width);
+    ASSERT_EQ(surface.Height(), recipe.height);
+    for (int y = 0; y < recipe.height; ++y) {
+        for (int x = 0; x < recipe.width; ++x) {
+            const std::uint8_t index = recipe.indexes[static_cast<std::size_t>(y * recipe.width + x)];
             std::uint8_t alpha = 0;
             const std::int32_t colour = surface.GetPixel(x, y, &alpha);
-            if (index == spec.transparent) {
+            if (index == recipe.transparent) {
                 EXPECT_EQ(colour, 0) << x << "," << y;
                 EXPECT_EQ(alpha, 0) << x << "," << y;
             } else {
@@ -163,84 +163,84 @@ void expectIndexes(const c32bppDIB& surface, const GifSpec& spec, const Bytes& t
     }
 }
 
-GifSpec smallPicture(int width, int height) {
-    GifSpec spec;
-    spec.globalTable = kFourColours;
-    spec.width = width;
-    spec.height = height;
+GifRecipe smallPicture(int width, int height) {
+    GifRecipe recipe;
+    recipe.globalTable = kFourColours;
+    recipe.width = width;
+    recipe.height = height;
     for (int i = 0; i < width * height; ++i)
-        spec.indexes.push_back(static_cast<std::uint8_t>((i * 7 / 3) % 4));
-    return spec;
+        recipe.indexes.push_back(static_cast<std::uint8_t>((i * 7 / 3) % 4));
+    return recipe;
 }
 
 TEST(GifReader, FirstFrameSmallerThanTheScreenLoadsAtTheFramesSize) {
-    GifSpec spec = smallPicture(5, 3);
-    spec.screenWidth = 40;
-    spec.screenHeight = 30;
+    GifRecipe recipe = smallPicture(5, 3);
+    recipe.screenWidth = 40;
+    recipe.screenHeight = 30;
     c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
-    expectIndexes(surface, spec, kFourColours);
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
+    expectIndexes(surface, recipe, kFourColours);
     EXPECT_FALSE(surface.Alpha());
     EXPECT_EQ(surface.ImageType(), kImageGif);
 }
 
 TEST(GifReader, SignatureIsReadWithoutRegardToCase) {
     for (const char* signature : {"GIF89A", "gif87a", "GiF87A"}) {
-        GifSpec spec = smallPicture(3, 2);
-        spec.signature = signature;
+        GifRecipe recipe = smallPicture(3, 2);
+        recipe.signature = signature;
         c32bppDIB surface;
-        EXPECT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface)) << signature;
+        EXPECT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface)) << signature;
     }
-    GifSpec spec = smallPicture(3, 2);
-    spec.signature = "GIF88a";
+    GifRecipe recipe = smallPicture(3, 2);
+    recipe.signature = "GIF88a";
     c32bppDIB surface;
-    EXPECT_FALSE(cGIFparser().LoadStream(makeGif(spec), surface));
+    EXPECT_FALSE(cGIFparser().LoadStream(makeGif(recipe), surface));
 }
 
 TEST(GifReader, TransparentIndexLeavesItsPixelsZeroAndSetsAlpha) {
-    GifSpec spec = smallPicture(6, 4);
-    spec.transparent = 2;
+    GifRecipe recipe = smallPicture(6, 4);
+    recipe.transparent = 2;
     c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
-    expectIndexes(surface, spec, kFourColours);
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
+    expectIndexes(surface, recipe, kFourColours);
     EXPECT_TRUE(surface.Alpha());
     EXPECT_EQ(surface.ImageType(), kImageGif);
 }
 
 TEST(GifReader, LocalTableWinsOverTheGlobalOne) {
-    GifSpec spec = smallPicture(4, 4);
-    spec.localTable = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+    GifRecipe recipe = smallPicture(4, 4);
+    recipe.localTable = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
     c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
-    expectIndexes(surface, spec, spec.localTable);
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
+    expectIndexes(surface, recipe, recipe.localTable);
 }
 
 TEST(GifReader, InterlacedRowsLandInPictureOrder) {
     for (int height : {1, 2, 5, 9, 17}) {
-        GifSpec spec = smallPicture(3, height);
-        spec.interlaced = true;
+        GifRecipe recipe = smallPicture(3, height);
+        recipe.interlaced = true;
         c32bppDIB surface;
-        ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface)) << height;
-        expectIndexes(surface, spec, kFourColours);
+        ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface)) << height;
+        expectIndexes(surface, recipe, kFourColours);
     }
 }
 
 TEST(GifReader, LongNoisyFrameFillsTheCodeTableAndStillDecodes) {
-    GifSpec spec;
-    spec.minimumCodeSize = 8;
+    GifRecipe recipe;
+    recipe.minimumCodeSize = 8;
     for (int i = 0; i < 256; ++i)
-        spec.globalTable.insert(spec.globalTable.end(),
-                                {std::uint8_t(i), std::uint8_t(255 - i), std::uint8_t(i / 2)});
-    spec.width = 200;
-    spec.height = 150;
+        recipe.globalTable.insert(recipe.globalTable.end(),
+                                  {std::uint8_t(i), std::uint8_t(255 - i), std::uint8_t(i / 2)});
+    recipe.width = 200;
+    recipe.height = 150;
     std::mt19937 random(7);
-    for (int i = 0; i < spec.width * spec.height; ++i)
+    for (int i = 0; i < recipe.width * recipe.height; ++i)
         // Noise for a full table, runs for codes that name the string being built.
-        spec.indexes.push_back(
+        recipe.indexes.push_back(
             static_cast<std::uint8_t>(i % 500 < 250 ? random() % 256 : static_cast<unsigned>(i / 40) % 3));
     c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(spec), surface));
-    expectIndexes(surface, spec, spec.globalTable);
+    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
+    expectIndexes(surface, recipe, recipe.globalTable);
 }
 
 TEST(GifReader, TruncatedOrDamagedCodeStreamFailsWithAnEmptySurface) {

@@ -20,16 +20,16 @@ bool loadsWithoutZlib(const Bytes& file, c32bppDIB& surface) {
     return loads(file, surface);
 }
 
-PngSpec rgbSpec() {
-    PngSpec spec;
-    spec.header = {9, 7, 8, 2, 0};
-    return spec;
+PngRecipe rgbRecipe() {
+    PngRecipe recipe;
+    recipe.header = {9, 7, 8, 2, 0};
+    return recipe;
 }
 
 TEST(PngReader, WrongIdatCrcLoadsOnlyWithoutZlib) {
-    PngSpec spec = rgbSpec();
-    spec.spoilIdatCrc = true;
-    const Bytes file = makePng(spec);
+    PngRecipe recipe = rgbRecipe();
+    recipe.spoilIdatCrc = true;
+    const Bytes file = makePng(recipe);
     c32bppDIB surface;
     EXPECT_FALSE(loads(file, surface));
     EXPECT_TRUE(loadsWithoutZlib(file, surface));
@@ -38,9 +38,9 @@ TEST(PngReader, WrongIdatCrcLoadsOnlyWithoutZlib) {
 
 TEST(PngReader, ZlibAndOwnInflateGiveTheSamePixels) {
     for (const std::uint8_t interlace : {std::uint8_t{0}, std::uint8_t{1}}) {
-        PngSpec spec;
-        spec.header = {61, 45, 8, 6, interlace};
-        const Bytes file = makePng(spec);
+        PngRecipe recipe;
+        recipe.header = {61, 45, 8, 6, interlace};
+        const Bytes file = makePng(recipe);
         c32bppDIB a, b;
         ASSERT_TRUE(loads(file, a));
         ASSERT_TRUE(loadsWithoutZlib(file, b));
@@ -49,7 +49,7 @@ TEST(PngReader, ZlibAndOwnInflateGiveTheSamePixels) {
 }
 
 TEST(PngReader, DamagedFilesAreClaimedButLeaveTheSurfaceEmpty) {
-    const Bytes good = makePng(rgbSpec());
+    const Bytes good = makePng(rgbRecipe());
     c32bppDIB surface;
     Bytes pastEnd = good;
     pastEnd[8 + 3] = 200;  // IHDR's length now runs past the file's end
@@ -72,21 +72,21 @@ TEST(PngReader, DamagedFilesAreClaimedButLeaveTheSurfaceEmpty) {
 
 TEST(PngReader, ChunkRulesOfPaletteTransparencyAndUnknownChunks) {
     c32bppDIB plain, other;
-    PngSpec spec = rgbSpec();
-    ASSERT_TRUE(loads(makePng(spec), plain));
-    spec.palette = Bytes(10, 1);
-    EXPECT_FALSE(loads(makePng(spec), other)) << "PLTE of 10 bytes on type 2";
-    spec.palette.clear();
-    spec.extraChunks = {{"ABCD", Bytes(5, 0)}, {"gAMA", Bytes(4, 1)}};  // unknown critical chunk
-    ASSERT_TRUE(loads(makePng(spec), other));
+    PngRecipe recipe = rgbRecipe();
+    ASSERT_TRUE(loads(makePng(recipe), plain));
+    recipe.palette = Bytes(10, 1);
+    EXPECT_FALSE(loads(makePng(recipe), other)) << "PLTE of 10 bytes on type 2";
+    recipe.palette.clear();
+    recipe.extraChunks = {{"ABCD", Bytes(5, 0)}, {"gAMA", Bytes(4, 1)}};  // unknown critical chunk
+    ASSERT_TRUE(loads(makePng(recipe), other));
     EXPECT_EQ(0, std::memcmp(plain.BitsPointer(), other.BitsPointer(), 9 * 7 * 4));
 
-    PngSpec gray;
+    PngRecipe gray;
     gray.header = {9, 7, 8, 0, 0};
     gray.palette = Bytes(10, 1);
     EXPECT_TRUE(loads(makePng(gray), other)) << "PLTE of 10 bytes on type 0 is ignored";
 
-    PngSpec rgba;
+    PngRecipe rgba;
     rgba.header = {9, 7, 8, 6, 0};
     ASSERT_TRUE(loads(makePng(rgba), plain));
     rgba.transparency = {0, 0, 0, 0, 0, 0};
@@ -95,10 +95,10 @@ TEST(PngReader, ChunkRulesOfPaletteTransparencyAndUnknownChunks) {
 }
 
 TEST(PngReader, PaletteOfOneBitWithoutPlteIsBlackAndWhite) {
-    PngSpec spec;
-    spec.header = {8, 1, 1, 3, 0};
+    PngRecipe recipe;
+    recipe.header = {8, 1, 1, 3, 0};
     c32bppDIB surface;
-    ASSERT_TRUE(loads(makePng(spec, pngIdat({0, 0xA0})), surface));
+    ASSERT_TRUE(loads(makePng(recipe, pngIdat({0, 0xA0})), surface));
     EXPECT_EQ(surface.GetPixel(0, 0), 0xFFFFFF);
     EXPECT_EQ(surface.GetPixel(1, 0), 0);
     EXPECT_EQ(surface.GetPixel(2, 0), 0xFFFFFF);
@@ -107,24 +107,24 @@ TEST(PngReader, PaletteOfOneBitWithoutPlteIsBlackAndWhite) {
 }
 
 TEST(PngReader, SixteenBitsCountByTheirHighBytes) {
-    PngSpec spec;
-    spec.header = {1, 1, 16, 6, 0};
+    PngRecipe recipe;
+    recipe.header = {1, 1, 16, 6, 0};
     c32bppDIB surface;
     // Red 0x12FF, green 0x3400, blue 0x5601, alpha 0xFFFF: the low bytes are lost.
-    ASSERT_TRUE(loads(makePng(spec, pngIdat({0, 0x12, 0xFF, 0x34, 0, 0x56, 1, 0xFF, 0xFF})), surface));
+    ASSERT_TRUE(loads(makePng(recipe, pngIdat({0, 0x12, 0xFF, 0x34, 0, 0x56, 1, 0xFF, 0xFF})), surface));
     EXPECT_EQ(surface.GetPixel(0, 0), 0x563412);
 }
 
 TEST(PngReader, InterlacedPicturesOfWidthOneAndTheSizeBound) {
-    PngSpec spec;
-    spec.header = {1, 9, 8, 0, 1};
+    PngRecipe recipe;
+    recipe.header = {1, 9, 8, 0, 1};
     c32bppDIB a, b;
-    ASSERT_TRUE(loads(makePng(spec), a));
+    ASSERT_TRUE(loads(makePng(recipe), a));
     EXPECT_EQ(a.Height(), 9);
     EXPECT_TRUE(pngSizeFits(65536, 1024));
     EXPECT_FALSE(pngSizeFits(65536, 1025));
     EXPECT_FALSE(pngSizeFits(0x7FFFFFFF, 1));
-    PngSpec badFilter = rgbSpec();
+    PngRecipe badFilter = rgbRecipe();
     Bytes raw = pngRawData(badFilter.header, 1);
     raw[0] = 5;
     EXPECT_FALSE(loads(makePng(badFilter, pngIdat(raw)), b));

@@ -29,7 +29,7 @@ inline void putChunk(Bytes& png, const std::string& type, const Bytes& data, boo
     putBe32(png, spoilCrc ? ~crc : crc);
 }
 
-struct PngSpec {
+struct PngRecipe {
     PngHeader header;
     Bytes palette;       // PLTE data, written when not empty
     Bytes transparency;  // tRNS data, written when not empty
@@ -74,27 +74,27 @@ inline Bytes pngIdat(const Bytes& raw) {
     return packed;
 }
 
-inline Bytes makePng(const PngSpec& spec, const Bytes& idat) {
+inline Bytes makePng(const PngRecipe& recipe, const Bytes& idat) {
     Bytes png = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
     Bytes ihdr;
-    putBe32(ihdr, static_cast<std::uint32_t>(spec.header.width));
-    putBe32(ihdr, static_cast<std::uint32_t>(spec.header.height));
-    ihdr.insert(ihdr.end(), {spec.header.bitDepth, spec.header.colorType, 0, 0, spec.header.interlace});
+    putBe32(ihdr, static_cast<std::uint32_t>(recipe.header.width));
+    putBe32(ihdr, static_cast<std::uint32_t>(recipe.header.height));
+    ihdr.insert(ihdr.end(), {recipe.header.bitDepth, recipe.header.colorType, 0, 0, recipe.header.interlace});
     putChunk(png, "IHDR", ihdr);
-    if (!spec.palette.empty()) putChunk(png, "PLTE", spec.palette);
-    if (!spec.transparency.empty()) putChunk(png, "tRNS", spec.transparency);
-    for (const auto& [type, data] : spec.extraChunks) putChunk(png, type, data);
+    if (!recipe.palette.empty()) putChunk(png, "PLTE", recipe.palette);
+    if (!recipe.transparency.empty()) putChunk(png, "tRNS", recipe.transparency);
+    for (const auto& [type, data] : recipe.extraChunks) putChunk(png, type, data);
     // Two IDAT chunks, to show that they are joined.
     const std::size_t half = idat.size() / 2;
     putChunk(png, "IDAT", Bytes(idat.begin(), idat.begin() + static_cast<std::ptrdiff_t>(half)));
     putChunk(png, "IDAT", Bytes(idat.begin() + static_cast<std::ptrdiff_t>(half), idat.end()),
-             spec.spoilIdatCrc);
+             recipe.spoilIdatCrc);
     putChunk(png, "IEND", {});
     return png;
 }
 
-inline Bytes makePng(const PngSpec& spec) {
-    return makePng(spec, pngIdat(pngRawData(spec.header, spec.seed)));
+inline Bytes makePng(const PngRecipe& recipe) {
+    return makePng(recipe, pngIdat(pngRawData(recipe.header, recipe.seed)));
 }
 
 // A palette of `entries` random colours.

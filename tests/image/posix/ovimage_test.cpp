@@ -24,9 +24,9 @@ Bytes readAll(const fs::path& path) {
 TEST(Ovimage, DecodeWritesTheSurfaceTopDownAndFailuresSayWhy) {
     const fs::path folder = fs::temp_directory_path() / ("ovimage-test-" + std::to_string(::getpid()));
     fs::create_directories(folder);
-    PngSpec spec;
-    spec.header = {7, 5, 8, 6, 1};
-    const Bytes png = makePng(spec);
+    PngRecipe recipe;
+    recipe.header = {7, 5, 8, 6, 1};
+    const Bytes png = makePng(recipe);
     std::ofstream(folder / "in.png", std::ios::binary)
         .write(reinterpret_cast<const char*>(png.data()), static_cast<std::streamsize>(png.size()));
     const std::string tool = ORVANTA_OVIMAGE;

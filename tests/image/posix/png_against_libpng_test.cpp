@@ -102,12 +102,12 @@ TEST(PngAgainstLibpng, EveryColourTypeDepthInterlaceAndTransparency) {
         for (const std::uint8_t interlace : {std::uint8_t{0}, std::uint8_t{1}}) {
             for (const bool withTransparency : {false, true}) {
                 if (withTransparency && c.colorType >= 4) continue;
-                PngSpec spec;
-                spec.header = {37, 29, c.depth, c.colorType, interlace};
-                spec.seed = c.colorType * 100u + c.depth + interlace;
-                if (c.colorType == 3) spec.palette = randomPalette(std::size_t{1} << c.depth, spec.seed);
-                if (withTransparency) spec.transparency = transparencyFor(c);
-                const Bytes file = makePng(spec);
+                PngRecipe recipe;
+                recipe.header = {37, 29, c.depth, c.colorType, interlace};
+                recipe.seed = c.colorType * 100u + c.depth + interlace;
+                if (c.colorType == 3) recipe.palette = randomPalette(std::size_t{1} << c.depth, recipe.seed);
+                if (withTransparency) recipe.transparency = transparencyFor(c);
+                const Bytes file = makePng(recipe);
                 const Bytes expected = expectedSurface(libpngRgba(file, 37, 29), 37, 29);
                 const std::string name = "type " + std::to_string(c.colorType) + " depth " +
                                          std::to_string(c.depth) + " interlace " + std::to_string(interlace) +
