@@ -236,25 +236,6 @@ TEST(ListViewBeforeCreation, KeepsSettingsForTheViewAndIgnoresItems) {
     EXPECT_TRUE(list.hwnd()->font().bold());
 }
 
-TEST(ListViewStyle, EachPropertyIsItsBit) {
-    ListViewStyle style;
-    EXPECT_FALSE(style.MultiSelect());
-    EXPECT_FALSE(style.HideSelection());
-    EXPECT_TRUE(style.LabelWrap());
-    style.setMultiSelect(true);
-    style.setHideSelection(true);
-    style.setLabelWrap(false);
-    style.setView(LVS_REPORT);
-    EXPECT_EQ(style.style,
-              (kListViewCreateStyle & ~(LVS_SINGLESEL | LVS_SHOWSELALWAYS)) | LVS_NOLABELWRAP | 1u);
-    style.setCheckboxes(true);
-    style.setFullRowSelect(true);
-    style.setHoverSelection(true);
-    EXPECT_EQ(style.extended, 0x64u);
-    style.setCheckboxes(false);
-    EXPECT_EQ(style.extended, 0x60u);
-}
-
 TEST(mMsg2String, NamesTheNotificationsAndKeepsTheDoubledColumnClick) {
     EXPECT_EQ(mMsg2String(-2), "NM_CLICK");
     EXPECT_EQ(mMsg2String(-12), "NM_CUSTOMDRAW");
@@ -263,12 +244,6 @@ TEST(mMsg2String, NamesTheNotificationsAndKeepsTheDoubledColumnClick) {
     EXPECT_EQ(mMsg2String(-108), "LVN_COLUMNCLICK");
     EXPECT_EQ(mMsg2String(-157), "LVN_GETINFOTIP");
     EXPECT_EQ(mMsg2String(-111), "");
-}
-
-TEST(WordHelpers, SplitAndJoinTheHalves) {
-    EXPECT_EQ(LoWord(MakeLong(0xFFFF, 0x8001)), 0xFFFF);
-    EXPECT_EQ(HiWord(MakeLong(0xFFFF, 0x8001)), 0x8001);
-    EXPECT_EQ(MakeLong(-1, 0), 0xFFFF);
 }
 
 }  // namespace

@@ -220,26 +220,5 @@ namespace orvanta::testing {
 namespace {
 
 // The scaler's loop over inner pixels must give exactly what the one-pixel sampler gives.
-TEST(RenderRules, BilinearScalerAgreesWithItsSampler) {
-    std::vector<std::uint8_t> pixels(37 * 23 * 4);
-    for (std::size_t i = 0; i < pixels.size(); ++i)
-        pixels[i] = static_cast<std::uint8_t>(i * 2654435761u >> 13);
-    const PixelView source{pixels.data(), 37, 23};
-    for (const auto& [w, h] : {std::pair{17, 11}, std::pair{50, 40}, std::pair{37, 23}}) {
-        const SourceRect rect{3, 2, 30, 19};
-        PixelBlock out;
-        ASSERT_TRUE(scalePixels(source, rect, w, h, true, out));
-        const double xRatio = 30.0 / w, yRatio = 19.0 / h;
-        for (std::int32_t y = 0; y < h; ++y) {
-            for (std::int32_t x = 0; x < w; ++x) {
-                std::uint8_t expected[4];
-                bilinearSample(source, yRatio * y + (23 - 2 - 19), xRatio * x + 3, 33, expected);
-                ASSERT_EQ(0, std::memcmp(expected, &out.pixels[static_cast<std::size_t>(y * w + x) * 4], 4))
-                    << w << "x" << h << " at " << x << "," << y;
-            }
-        }
-    }
-}
-
 }  // namespace
 }  // namespace orvanta::testing
