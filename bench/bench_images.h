@@ -31,7 +31,7 @@ inline void paint(c32bppDIB& surface, Picture kind) {
                 // glyphs of 6x11 marks, picked by a hash of the cell.
                 const bool panel = (x / 240 + y / 180) % 3 == 0;
                 const std::uint32_t cell =
-                    static_cast<std::uint32_t>((x / 9) * 2654435761u + (y / 18) * 40503u);
+                    static_cast<std::uint32_t>(x / 9) * 2654435761u + static_cast<std::uint32_t>(y / 18) * 40503u;
                 const std::uint32_t glyph = (cell >> 7) % 64, gx = static_cast<std::uint32_t>(x % 9),
                                     gy = static_cast<std::uint32_t>(y % 18);
                 const bool mark = gx < 6 && gy < 11 &&

@@ -3,12 +3,13 @@
 A reference is named after ours plus "_" and the library, and takes the same argument:
 crc32_CalculateBytes_zlib/65536 is the reference of crc32_CalculateBytes/65536. The ratio is
 named after ours and the argument (crc32_CalculateBytes_64KiB); a reference other than zlib adds
-its name. The figures in GB/s come first, the ratio lines last.
+its name. An argument of 0 adds nothing to the name. The figures in GB/s come first, the ratio
+lines last.
 """
 import json
 import sys
 
-REFERENCES = ("zlib", "libdeflate", "libspng", "libpng")
+REFERENCES = ("zlib", "libdeflate", "libspng", "libpng", "qt")
 
 
 def size_name(argument):
@@ -30,7 +31,7 @@ def load(paths):
             continue  # a program whose benchmarks the filter left out writes nothing useful
         for run in runs:
             if "bytes_per_second" in run:
-                speeds[run["name"]] = run["bytes_per_second"]
+                speeds[run["name"].removesuffix("/real_time")] = run["bytes_per_second"]
     return speeds
 
 
@@ -43,7 +44,9 @@ def comparisons(speeds):
         ours = speeds.get(f"{base}/{argument}")
         if ours:
             suffix = "" if library == "zlib" else f"_{library}"
-            yield f"{base}_{size_name(argument)}{suffix}", library, ours, theirs
+            # An argument of 0 only pairs the two; the name says the size already.
+            size = "" if argument == "0" else f"_{size_name(argument)}"
+            yield f"{base}{size}{suffix}", library, ours, theirs
 
 
 def main(paths):

@@ -14,6 +14,8 @@
 #include "controls/ctlListView.h"
 #include "controls/ctlProgressBar.h"
 #include "controls/frmButton.h"
+#include "image/widget/cCrossComm.h"
+#include "pictures.h"
 #include "platform/Host.h"
 
 namespace orvanta {
@@ -112,16 +114,16 @@ int main(int argc, char** argv) {
     list.resize(400, 150);
     fillListView(list, LVS_LIST);
     std::unique_ptr<QWidget> bars(progressBars(dialogs));
+    cCrossComm::instance().setHost(host.get());
+    std::unique_ptr<QWidget> pictures(pictureControls());
     frmButton browser(*host, dialogs);
     browser.prepare({"Choose the folder of the application files",
                      host->toWindowsPath(QDir::homePath().toStdString()), true, true});
     about aboutWindow(*host, dialogs);
 
-    const std::vector<Shot> shots{{"listview_report", &report},
-                                  {"listview_list", &list},
-                                  {"progressbar_states", bars.get()},
-                                  {"folder_browser", &browser},
-                                  {"about", &aboutWindow}};
+    const std::vector<Shot> shots{{"listview_report", &report},       {"listview_list", &list},
+                                  {"progressbar_states", bars.get()}, {"picture_control", pictures.get()},
+                                  {"folder_browser", &browser},       {"about", &aboutWindow}};
     if (argc > 1) {
         render(shots, QString::fromLocal8Bit(argv[1]));
         return 0;
