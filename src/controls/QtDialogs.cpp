@@ -10,6 +10,7 @@
 #include "controls/QtText.h"
 #include "controls/frmButton.h"
 #include "core/CommondialogBox.h"
+#include "core/NativeTaskDialog.h"
 
 namespace orvanta {
 namespace {
@@ -99,6 +100,16 @@ DialogAnswer QtDialogs::messageBox(const MessageBoxRequest& request) {
 }
 
 DialogAnswer QtDialogs::taskDialog(const TaskDialogRequest& request) {
+#ifdef _WIN32
+    TaskDialogExRequest native;
+    native.windowTitle = request.title;
+    native.mainInstruction = request.instruction;
+    native.content = request.content;
+    native.mainIcon = request.icon;
+    native.commonButtons = request.buttons;
+    TaskDialogExAnswer answer;
+    if (showNativeTaskDialog(native, answer)) return static_cast<DialogAnswer>(answer.button);
+#endif
     QMessageBox box(toIcon(request.icon), windowTitle(request.title), toDisplayText(request.instruction),
                     standardButtons(request.buttons), owner_);
     box.setInformativeText(toDisplayText(request.content));
@@ -106,6 +117,10 @@ DialogAnswer QtDialogs::taskDialog(const TaskDialogRequest& request) {
 }
 
 TaskDialogExAnswer QtDialogs::taskDialogEx(const TaskDialogExRequest& request) {
+#ifdef _WIN32
+    // The platform's own dialog; Qt's stands in only where it could not be shown.
+    if (TaskDialogExAnswer answer; showNativeTaskDialog(request, answer)) return answer;
+#endif
     QMessageBox box(toIcon(request.mainIcon), windowTitle(request.windowTitle),
                     toDisplayText(request.mainInstruction), QMessageBox::NoButton, owner_);
     box.setInformativeText(toDisplayText(request.content));
