@@ -1,0 +1,100 @@
+#include "project/ProjectIndex.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include "project/LineFile.h"
+#include "project/ProjectPaths.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::string_view kForbiddenCharacters = "\\/:*?\"<>|";
+constexpr std::array<std::string_view, 6> kReservedNames = {"CON", "PRN", "AUX", "NUL", "COM", "LPT"};
+
+std::string upper(std::string text) {
+    for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
+// Device names stay devices with any extension ("nul.txt"); COM and LPT count with a digit.
+bool isDeviceName(const std::string& name) {
+    const std::string stem = upper(name.substr(0, name.find('.')));
+    for (std::string_view reserved : kReservedNames) {
+        if (stem == reserved) return reserved != "COM" && reserved != "LPT";
+        if (stem.size() == 4 && stem.compare(0, 3, reserved) == 0 && stem[3] >= '1' && stem[3] <= '9')
+            return true;
+    }
+    return false;
+}
+
+bool isUsableFolderName(const std::string& name) {
+    if (name == "." || name == ".." || name.back() == '.' || name.back() == ' ') return false;
+    const bool forbidden = std::any_of(name.begin(), name.end(), [](char c) {
+        return static_cast<unsigned char>(c) < 32 || kForbiddenCharacters.find(c) != std::string_view::npos;
+    });
+    return !forbidden && !isDeviceName(name);
+}
+
+}  // namespace
+
+std::vector<std::string> listProjects(Host& host, const std::string& workspaceFolder) {
+    std::vector<std::string> names;
+    for (const DirectoryEntry& entry : host.listDirectory(myInstallersFolder(workspaceFolder) + "\\*", true))
+        if (entry.name != "." && entry.name != "..") names.push_back(entry.name);
+    return names;
+}
+
+ProjectNameCheck checkProjectName(Host& host, const std::string& workspaceFolder, const std::string& text,
+                                  const std::string& placeholder) {
+    if (text.empty() || text == placeholder) return ProjectNameCheck::Empty;
+    if (!isUsableFolderName(text)) return ProjectNameCheck::Unusable;
+    const auto attributes = host.fileAttributes(projectRoot(workspaceFolder, text));
+    return attributes.has_value() ? ProjectNameCheck::Taken : ProjectNameCheck::Acceptable;
+}
+
+std::string unusableNameText(const std::string& name) {
+    return "\"" + name +
+           "\" can't be a project name: a folder name can't hold \\ / : * ? \" < > |, end in a "
+           "dot or a blank, or be a device name.";
+}
+
+std::optional<std::string> createProjectTree(Host& host, const std::string& workspaceFolder,
+                                             const std::string& name) {
+    const std::string root = projectRoot(workspaceFolder, name);
+    std::vector<std::string> folders{workspaceFolder, myInstallersFolder(workspaceFolder), root};
+    for (std::string_view below :
+         {projectfolder::kFiles, projectfolder::kExecutables, projectfolder::kFonts, projectfolder::kPackages,
+          projectfolder::kSettingsSet, projectfolder::kMsi})
+        folders.push_back(inFolder(root, below));
+    for (const std::string& folder : folders) {
+        const std::optional<std::uint32_t> attributes = host.fileAttributes(folder);
+        if (attributes.has_value() ? (*attributes & kAttributeDirectory) == 0 : !host.createFolder(folder))
+            return folder;
+    }
+    return std::nullopt;
+}
+
+std::string copyFilesBatchText(const std::string& workspaceFolder, const std::string& sourceFolder,
+                               const std::string& name) {
+    return "xcopy /s /d \"" + sourceFolder + "\" \"" + inFolder(projectRoot(workspaceFolder, name), "files") +
+           "\" /e /h /y\r\n" + "del " + copyFilesBatch(workspaceFolder) + "\r\n";
+}
+
+std::string deleteProjectBatchText(const std::string& workspaceFolder, const std::string& name) {
+    return "rd /s /q \"" + projectRoot(workspaceFolder, name) + "\"\r\n" + "del \"" +
+           deleteProjectBatch(workspaceFolder) + "\"\r\n";
+}
+
+std::optional<std::pair<std::string, std::string>> projectPreviewLines(Host& host,
+                                                                       const std::string& projectRoot) {
+    const std::optional<std::vector<std::string>> lines =
+        readLines(host, inFolder(projectRoot, projectfile::kMainSettings), 2);
+    if (!lines) return std::nullopt;
+    return std::pair{lines->size() > 0 ? (*lines)[0] : std::string(),
+                     lines->size() > 1 ? (*lines)[1] : std::string()};
+}
+
+}  // namespace orvanta
