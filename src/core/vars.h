@@ -15,6 +15,11 @@ inline std::string compressionLevel;  // set by the package dialog
 inline std::string finalPackageFile;  // set by the saver
 inline bool abortWalks = false;       // stops the recursive folder walks early
 
+// The key of the user's preferences: settingsRootKey plus "\Settings".
+inline std::string settingsKey() {
+    return settingsRootKey + "\\Settings";
+}
+
 // Back to the values a fresh process has; for tests that run Main more than once.
 void reset();
 

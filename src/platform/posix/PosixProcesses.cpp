@@ -184,10 +184,16 @@ std::vector<std::string> PosixHost::processNames() {
 }
 
 // The opener runs behind a shell that exits at once, so it is never our child to wait for.
-int PosixHost::shellExecute(const std::string& file, const std::string&, int) {
+int PosixHost::shellExecute(const std::string& file, const std::string& parameters, int showCommand) {
     const bool isAddress = file.find("://") != std::string::npos || toLowerAscii(file).starts_with("mailto:");
     const std::string target = isAddress ? windows1252ToUtf8(file) : toHostPath(file);
     if (!isAddress && (target.empty() || ::access(target.c_str(), F_OK) != 0)) return 2;
+    // The shell runs a batch file, as Windows' does, rather than opening it in an editor.
+    const std::string lower = toLowerAscii(file);
+    if (!isAddress && (lower.ends_with(".bat") || lower.ends_with(".cmd"))) {
+        const std::string command = "\"" + file + "\"" + (parameters.empty() ? "" : " " + parameters);
+        return startProcess(command, showCommand) ? 42 : 31;
+    }
     if (findProgramOnPath("xdg-open", environmentSearchPath()).empty()) return 31;
     const std::vector<std::string> detached = {"/bin/sh", "-c", "xdg-open \"$1\" >/dev/null 2>&1 &", "sh",
                                                target};
