@@ -113,6 +113,7 @@ void packages::savePackage() {
     if (selected == -1) return;
     const std::string location = fromQString(ui_->Combo5->currentText());
     if (!hasLocationStructure(location) || isRootLocation(location)) return message(kLocationMessage);
+    // These roots alone are refused just above; the rule only bites if that test is ever relaxed.
     if (clearsRemoveByDefaultOnSave(location)) ui_->Check3->setChecked(false);
     if (!ensurePackageFolder()) return;
     ui_->Text3->setText(toQString(packageFolderSize()));
