@@ -29,7 +29,7 @@ inline constexpr const char* kPackagesTipCombo5 =
 class packages : public QDialog {
     Q_OBJECT
 public:
-    packages(Host& host, Dialogs& dialogs, PackagesContext context, PackageTables& tables = packageTables(),
+    packages(Host& host, Dialogs& dialogs, PackagesContext context, PackageTables& tables = packageTables,
              QWidget* parent = nullptr);
     ~packages() override;
 

@@ -25,32 +25,25 @@ bool equalsIgnoringCase(const std::string& text, const std::string& word) {
 
 Package& PackageTables::slot(int index) {
     checkSlot(index);
-    return slots_[static_cast<std::size_t>(index)];
+    return entries[static_cast<std::size_t>(index)];
 }
 
 const Package& PackageTables::slot(int index) const {
     checkSlot(index);
-    return slots_[static_cast<std::size_t>(index)];
+    return entries[static_cast<std::size_t>(index)];
 }
 
 std::optional<std::size_t> PackageTables::read(Host& host, const std::string& path) {
-    return readPackageList(host, path, slots_);
+    const auto read = readPackageList(host, path, entries);
+    if (read) count = *read;
+    return read;
 }
 
-bool PackageTables::write(Host& host, const std::string& path, std::size_t count, bool skipEmptyNames) const {
+bool PackageTables::write(Host& host, const std::string& path, std::size_t upTo, bool skipEmptyNames) const {
     std::vector<Package> written;
-    for (std::size_t index = 0; index < std::min(count, slots_.size()); ++index)
-        if (!skipEmptyNames || !slots_[index].name.empty()) written.push_back(slots_[index]);
+    for (std::size_t index = 0; index < std::min(upTo, entries.size()); ++index)
+        if (!skipEmptyNames || !entries[index].name.empty()) written.push_back(entries[index]);
     return writePackageList(host, path, written);
-}
-
-void PackageTables::clear() {
-    std::fill(slots_.begin(), slots_.end(), Package{});
-}
-
-PackageTables& packageTables() {
-    static PackageTables tables;
-    return tables;
 }
 
 bool packageFlagSet(const std::string& field) {

@@ -38,6 +38,7 @@ TEST(PackageTables, WritesOnlyTheCountedSlotsAndSkipsNamelessOnesWhenAsked) {
 
     // Reading back fills from slot 0 and leaves the slots past the file alone.
     EXPECT_EQ(tables.read(box.host(), path), 2u);
+    EXPECT_EQ(tables.count, 2u);
     EXPECT_EQ(tables.slot(2).name, "stale");
 }
 
