@@ -7,6 +7,7 @@
 
 namespace orvanta {
 
+inline constexpr int kErrorNumberSubscriptOutOfRange = 9;
 inline constexpr int kErrorNumberFileNotFound = 53;
 inline constexpr int kErrorNumberPathFileAccess = 75;
 inline constexpr int kErrorNumberPathNotFound = 76;

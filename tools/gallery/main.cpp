@@ -1,5 +1,6 @@
-// The control gallery: each control in its states, shown in a window, or with a folder as its
-// argument rendered into PNG files there (what scripts/screenshots does offscreen).
+// The control gallery: each control in its states and the editor's windows over a small sample
+// project, shown in windows, or with a folder as its argument rendered into PNG files there (what
+// scripts/screenshots does offscreen).
 #include <QApplication>
 #include <QDir>
 #include <QGroupBox>
@@ -14,6 +15,10 @@
 #include "controls/ctlListView.h"
 #include "controls/ctlProgressBar.h"
 #include "controls/frmButton.h"
+#include "core/RegistryAPI.h"
+#include "core/vars.h"
+#include "editor/optionsfrm.h"
+#include "editor/packages.h"
 #include "image/widget/cCrossComm.h"
 #include "pictures.h"
 #include "platform/Host.h"
@@ -84,6 +89,28 @@ QWidget* progressBars(Dialogs& dialogs) {
     return box;
 }
 
+// A project "Demo" with three packages in a workspace below `folder`, and the settings key.
+void makeSampleProject(Host& host, const QString& folder) {
+    vars::workspaceFolder = host.toWindowsPath(folder.toStdString());
+    vars::settingsRootKey = "HKCU\\Software\\Orvanta";
+    const std::string root = vars::workspaceFolder + "\\myinstallers\\Demo";
+    for (const char* part : {"\\myinstallers", "\\myinstallers\\Demo", "\\myinstallers\\Demo\\packages"})
+        host.createFolder(vars::workspaceFolder + part);
+    host.writeFileAtomic(root + "\\packages.cfg",
+                         "Runtime libraries\r\nProgram Files\\Common\r\nShared runtime\r\n1\r\n1\r\n"
+                         "2482176\r\n1\r\nSample projects\r\nUser MyDocuments\\Samples\r\n"
+                         "Examples to start from\r\n0\r\n0\r\n733184\r\n1\r\nDark theme\r\n"
+                         "Themes\\Dark\r\nA darker look\r\n1\r\n0\r\n90112\r\n1\r\n");
+    RegistryAPI registry(host);
+    registry.createRegistryKey(vars::settingsRootKey + "\\Settings");
+    registry.writeSettingNumber(vars::settingsRootKey + "\\Settings", "saveAlways", 1);
+}
+
+PackagesContext sampleEditor() {
+    const std::string root = vars::workspaceFolder + "\\myinstallers\\Demo";
+    return {[] { return std::string("Demo"); }, [root] { return root; }, {}, {}};
+}
+
 void render(const std::vector<Shot>& shots, const QString& folder) {
     QDir().mkpath(folder);
     for (const Shot& shot : shots) {
@@ -120,10 +147,18 @@ int main(int argc, char** argv) {
     browser.prepare({"Choose the folder of the application files",
                      host->toWindowsPath(QDir::homePath().toStdString()), true, true});
     about aboutWindow(*host, dialogs);
+    QTemporaryDir workspace;
+    makeSampleProject(*host, workspace.path());
+    packages packagesWindow(*host, dialogs, sampleEditor());
+    packagesWindow.show();
+    packagesWindow.List1()->setListItemsSelected(1, true);
+    emit packagesWindow.List1()->ItemClick(1);
+    optionsfrm optionsWindow(*host);
 
     const std::vector<Shot> shots{{"listview_report", &report},       {"listview_list", &list},
                                   {"progressbar_states", bars.get()}, {"picture_control", pictures.get()},
-                                  {"folder_browser", &browser},       {"about", &aboutWindow}};
+                                  {"folder_browser", &browser},       {"about", &aboutWindow},
+                                  {"packages", &packagesWindow},      {"optionsfrm", &optionsWindow}};
     if (argc > 1) {
         render(shots, QString::fromLocal8Bit(argv[1]));
         return 0;

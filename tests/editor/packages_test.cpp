@@ -1,0 +1,278 @@
+#include "editor/packages.h"
+
+#include "PackagesFixture.h"
+#include "editor/PackageLocation.h"
+
+namespace orvanta::testing {
+namespace {
+
+TEST_F(PackagesManager, AddingAppendsABlockAndMakesTheFolderBelowTheProject) {
+    writeList(packageBlock("Docs", "<>\\docs", "Manuals", "1", "0", "120", "1"));
+    open();
+    ASSERT_EQ(List1().ListItemsCount(), 1);
+
+    button("Command2").click();
+    EXPECT_EQ(button("Command2").text(), "OK");
+    EXPECT_EQ(button("Command3").text(), "C");
+    EXPECT_TRUE(button("Command3").isEnabled());
+    EXPECT_FALSE(button("Command4").isEnabled());
+    EXPECT_FALSE(button("Command5").isEnabled());
+    EXPECT_EQ(Combo5().currentText(), "<>\\");
+    EXPECT_EQ(text("Text3").text(), "0");
+    EXPECT_TRUE(text("Text1").isEnabled());
+
+    text("Text1").setText("Extras");
+    Combo5().setEditText("Program Files\\Extras");
+    text("Text2").setText("More tools");
+    check("Check2").click();  // a required package is installed by default too
+    button("Command2").click();
+
+    EXPECT_EQ(readList(),
+              packageBlock("Docs", "<>\\docs", "Manuals", "1", "0", "120", "1") +
+                  packageBlock("Extras", "Program Files\\Extras", "More tools", "1", "1", "0", "1"));
+    EXPECT_TRUE(box.exists(std::string(kRoot) + "\\packages\\Extras"));
+    ASSERT_EQ(List1().ListItemsCount(), 2);
+    EXPECT_EQ(List1().ListItemsText(1), "Extras");
+    EXPECT_TRUE(List1().ItemChecked(1));
+    EXPECT_EQ(window->packageCount(), 2);
+    // Back in view mode with nothing to change.
+    EXPECT_EQ(button("Command2").text(), "+");
+    EXPECT_EQ(button("Command3").text(), "-");
+    EXPECT_FALSE(button("Command3").isEnabled());
+    EXPECT_FALSE(button("Command4").isEnabled());
+    EXPECT_EQ(text("Text1").text(), "");
+    EXPECT_FALSE(text("Text1").isEnabled());
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
+}
+
+TEST_F(PackagesManager, CancellingAnAddWritesNothing) {
+    open();
+    fillAddedPackage("Extras", "Themes\\Dark", "Skins");
+    button("Command3").click();
+    EXPECT_EQ(button("Command2").text(), "+");
+    EXPECT_EQ(button("Command3").text(), "-");
+    EXPECT_FALSE(button("Command3").isEnabled());
+    EXPECT_EQ(text("Text1").text(), "");
+    EXPECT_EQ(text("Text2").text(), "");
+    EXPECT_FALSE(box.exists(working + "\\packages.cfg"));
+    EXPECT_FALSE(box.exists(std::string(kRoot) + "\\packages\\Extras"));
+}
+
+TEST_F(PackagesManager, RefusedLocationsOnAddingKeepTheEditAsItWas) {
+    const struct {
+        const char* location;
+        std::string_view message;
+    } refused[] = {
+        {"mylocation", kLocationStructureMessage},
+        {"C:mylocation", kLocationStructureMessage},
+        {"program files\\x", kLocationStructureMessage},  // the tokens are case-sensitive
+        {"Themes\\", kRootLocationMessage},
+        {"<>\\", kRootLocationMessage},  // what add mode starts with must be completed
+    };
+    open();
+    for (const auto& row : refused) {
+        dialogs.messageBoxes.clear();
+        fillAddedPackage("Extras", row.location, "More");
+        button("Command2").click();
+        ASSERT_EQ(dialogs.messageBoxes.size(), 1u) << row.location;
+        EXPECT_EQ(dialogs.messageBoxes[0].text, row.message) << row.location;
+        EXPECT_EQ(dialogs.messageBoxes[0].icon, MessageIcon::Exclamation);
+        EXPECT_EQ(button("Command2").text(), "OK") << row.location;
+        EXPECT_EQ(text("Text1").text(), "Extras");
+        EXPECT_EQ(Combo5().currentText(), row.location);
+        button("Command3").click();
+    }
+    EXPECT_FALSE(box.exists(working + "\\packages.cfg"));
+
+    // A bare drive and a folder below a token pass both rules.
+    dialogs.messageBoxes.clear();
+    for (const char* location : {"C:\\", "Themes\\x"}) {
+        fillAddedPackage(location[0] == 'C' ? "Drive" : "Skin", location, "");
+        button("Command2").click();
+    }
+    EXPECT_EQ(List1().ListItemsCount(), 2);
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
+}
+
+TEST_F(PackagesManager, SavingARefusedLocationGivesTheJointMessageAndWritesNothing) {
+    const std::string before = packageBlock("Docs", "<>\\docs") + packageBlock("Skins", "Themes\\Dark");
+    writeList(before);
+    open();
+    clickRow(1);
+    for (const char* location : {"Themes\\", "Dark", "User MyDocuments\\"}) {
+        dialogs.messageBoxes.clear();
+        Combo5().setEditText(location);
+        button("Command4").click();
+        ASSERT_EQ(messages(), std::vector<std::string>{std::string(kLocationMessage)}) << location;
+        EXPECT_EQ(Combo5().currentText(), location);
+    }
+    EXPECT_EQ(readList(), before);
+}
+
+TEST_F(PackagesManager, SavingAChangedRowRewritesItWithTheSizeOfItsFolder) {
+    // An edition is open: the list lies in its folder, the files below the project's root.
+    working = std::string(kRoot) + "\\editions\\Pro";
+    writeList(packageBlock("Docs", "<>\\docs", "Manuals", "True", "0", "7", "1") +
+              packageBlock("Skins", "Themes\\Dark", "Looks", "0", "0", "0", "1"));
+    box.writeFile(std::string(kRoot) + "\\packages\\Skins\\a.bin", std::string(10, 'a'));
+    box.writeFile(std::string(kRoot) + "\\packages\\Skins\\deep\\b.bin", std::string(5, 'b'));
+    open();
+    EXPECT_TRUE(List1().ItemChecked(0));  // "True" reads as ticked
+
+    clickRow(1);
+    EXPECT_EQ(text("Text1").text(), "Skins");
+    EXPECT_EQ(Combo5().currentText(), "Themes\\Dark");
+    EXPECT_EQ(text("Text2").text(), "Looks");
+    EXPECT_TRUE(check("Check3").isChecked());
+    EXPECT_FALSE(button("Command4").isEnabled());
+    EXPECT_TRUE(button("Command3").isEnabled());
+    EXPECT_TRUE(button("Command5").isEnabled());
+
+    text("Text2").setText("Dark looks");
+    EXPECT_TRUE(button("Command4").isEnabled());
+    Combo5().setEditText("C:\\Skins");  // a drive path can't be removed by default
+    EXPECT_FALSE(check("Check3").isChecked());
+    EXPECT_FALSE(check("Check3").isEnabled());
+    button("Command4").click();
+
+    EXPECT_EQ(text("Text3").text(), "15");
+    EXPECT_EQ(readList(), packageBlock("Docs", "<>\\docs", "Manuals", "True", "0", "7", "1") +
+                              packageBlock("Skins", "C:\\Skins", "Dark looks", "0", "0", "15", "0"));
+    EXPECT_EQ(List1().SelectedItemIndex(), 1);
+    EXPECT_FALSE(button("Command4").isEnabled());
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
+}
+
+TEST_F(PackagesManager, RemovingRewritesWithoutTheRowAndKeepsItsFiles) {
+    writeList(packageBlock("A", "<>\\a") + packageBlock("", "<>\\nameless") + packageBlock("B", "<>\\b") +
+              packageBlock("C", "<>\\c"));
+    box.writeFile(std::string(kRoot) + "\\packages\\B\\file.txt", "kept");
+    open();
+    ASSERT_EQ(window->packageCount(), 4);
+
+    clickRow(2);
+    button("Command3").click();
+    // The nameless package goes with the first removal after it.
+    EXPECT_EQ(readList(), packageBlock("A", "<>\\a") + packageBlock("C", "<>\\c"));
+    EXPECT_EQ(box.readFile(std::string(kRoot) + "\\packages\\B\\file.txt"), "kept");
+    EXPECT_EQ(List1().ListItemsCount(), 2);
+    EXPECT_EQ(window->packageCount(), 2);
+    EXPECT_FALSE(button("Command3").isEnabled());
+
+    // Slots past the count still hold old packages; they must not come back.
+    for (int left = 2; left > 0; --left) {
+        clickRow(0);
+        button("Command3").click();
+    }
+    EXPECT_EQ(readList(), "");
+    EXPECT_EQ(List1().ListItemsCount(), 0);
+}
+
+TEST_F(PackagesManager, ClosingWritesTheEditorButtonCaption) {
+    writeList(packageBlock("A", "<>\\a") + packageBlock("B", "<>\\b"));
+    open();
+    button("Command1").click();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(captions, std::vector<std::string>{"Manage packages \r\n2 package(s)"});
+
+    // Without a list the count is 0, and the title bar's close writes it as well.
+    writeList("");
+    captions.clear();
+    open().close();
+    EXPECT_EQ(captions, std::vector<std::string>{"Manage packages \r\n0 package(s)"});
+}
+
+TEST_F(PackagesManager, CheckBoxesFollowEachOtherAndTheListMark) {
+    writeList(packageBlock("A", "<>\\a", "", "0", "0") + packageBlock("B", "<>\\b", "", "1", "1"));
+    open();
+    clickRow(0);
+
+    check("Check2").click();
+    EXPECT_TRUE(check("Check1").isChecked());
+    EXPECT_EQ(tables.slot(0).installByDefault, "1");
+    check("Check1").click();
+    EXPECT_FALSE(check("Check2").isChecked());
+    EXPECT_EQ(tables.slot(0).installByDefault, "0");
+
+    // Right after a click on Check1 the list's change leaves Check1 alone, once.
+    List1().setItemChecked(0, true);
+    EXPECT_EQ(tables.slot(0).installByDefault, "True");
+    EXPECT_FALSE(check("Check1").isChecked());
+    EXPECT_TRUE(button("Command4").isEnabled());
+    List1().setItemChecked(0, false);
+    List1().setItemChecked(0, true);
+    EXPECT_TRUE(check("Check1").isChecked());
+
+    // A click on the box of another row acts on that row; the click that comes with it leaves
+    // the change in memory until the row is saved or the file rewritten.
+    QTreeWidget* view = List1().hwnd();
+    const QRect rowB = view->visualItemRect(view->topLevelItem(1));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(rowB.left() + 10, rowB.center().y()));
+    EXPECT_EQ(List1().SelectedItemIndex(), 1);
+    EXPECT_EQ(tables.slot(1).installByDefault, "False");
+    EXPECT_EQ(text("Text1").text(), "B");
+    EXPECT_FALSE(check("Check1").isChecked());
+    EXPECT_FALSE(List1().ListItemsSelected(0));
+
+    // The word goes into the file when another change rewrites it before a save of the row.
+    fillAddedPackage("C", "<>\\c", "");
+    button("Command2").click();
+    EXPECT_EQ(readList().substr(0, packageBlock("A", "<>\\a", "", "True").size()),
+              packageBlock("A", "<>\\a", "", "True"));
+    EXPECT_TRUE(List1().ItemChecked(0));
+}
+
+TEST_F(PackagesManager, TipFolderSizeAndOpenUseTheirOwnFolders) {
+    working = std::string(kRoot) + "\\editions\\Pro";
+    writeList(packageBlock("Skins", "Themes\\Dark"));
+    box.writeFile(std::string(kRoot) + "\\packages\\Skins\\a.bin", "1234");
+    open();
+
+    QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
+    QApplication::sendEvent(&Combo5(), &enter);
+    EXPECT_EQ(tips, std::vector<std::string>{kPackagesTipCombo5});
+
+    clickRow(0);
+    text("Text3").setFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(text("Text3").text(), "4");
+
+    button("Command5").click();
+    EXPECT_EQ(host.opened, std::vector<std::string>{box.windowsPath(working + "\\packages\\Skins")});
+}
+
+TEST_F(PackagesManager, AProjectWithoutItsPackagesFolderKeepsTheAdd) {
+    box.makeFolder("Documents\\Orvanta\\myinstallers\\Other");
+    projectName = "Other";
+    open();
+    fillAddedPackage("Extras", "<>\\extras", "");
+    button("Command2").click();
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
+    EXPECT_NE(dialogs.messageBoxes[0].text.find("myinstallers\\Other\\packages\\Extras"), std::string::npos);
+    EXPECT_EQ(button("Command2").text(), "OK");
+    EXPECT_EQ(text("Text1").text(), "Extras");
+    EXPECT_FALSE(box.exists(working + "\\packages.cfg"));
+}
+
+TEST_F(PackagesManager, TheThousandAndFirstPackageFitsAndTheNextIsABoundsError) {
+    std::string list;
+    for (int index = 0; index < kLastPackageSlot; ++index)
+        list += packageBlock("p" + std::to_string(index), "<>\\p");
+    writeList(list);
+    open();
+    fillAddedPackage("last", "<>\\last", "");
+    button("Command2").click();
+    EXPECT_EQ(window->packageCount(), 1001);
+    list += packageBlock("last", "<>\\last", "", "0", "0", "0", "1");
+    EXPECT_EQ(readList(), list);
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
+
+    fillAddedPackage("over", "<>\\over", "");
+    button("Command2").click();
+    EXPECT_EQ(messages(), std::vector<std::string>{"Run-time error '9':\r\n\r\nSubscript out of range"});
+    EXPECT_EQ(readList(), list);
+    EXPECT_EQ(List1().ListItemsCount(), 1001);
+}
+
+}  // namespace
+}  // namespace orvanta::testing
