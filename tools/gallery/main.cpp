@@ -2,6 +2,7 @@
 // project, shown in windows, or with a folder as its argument rendered into PNG files there (what
 // scripts/screenshots does offscreen).
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,6 +23,9 @@
 #include "image/widget/cCrossComm.h"
 #include "pictures.h"
 #include "platform/Host.h"
+#include "project/window/ProjectEditor.h"
+#include "project/window/start.h"
+#include "ui_start.h"
 
 namespace orvanta {
 namespace {
@@ -106,6 +110,16 @@ void makeSampleProject(Host& host, const QString& folder) {
     registry.writeSettingNumber(vars::settingsRootKey + "\\Settings", "saveAlways", 1);
 }
 
+// The index window is shown on its own here: nothing it asks of the editor does anything.
+class NoEditor : public ProjectEditor {
+public:
+    void beginNewProject(const std::string&, const std::string&, const std::string&) override {}
+    void showLogo(const std::string&) override {}
+    void showBackground(const std::string&) override {}
+    void showAndSave() override {}
+    bool openProject(const std::string&) override { return false; }
+};
+
 PackagesContext sampleEditor() {
     const std::string root = vars::workspaceFolder + "\\myinstallers\\Demo";
     return {[] { return std::string("Demo"); }, [root] { return root; }, {}, {}};
@@ -154,11 +168,22 @@ int main(int argc, char** argv) {
     packagesWindow.List1()->setListItemsSelected(1, true);
     emit packagesWindow.List1()->ItemClick(1);
     optionsfrm optionsWindow(*host);
+    host->writeFileAtomic(vars::workspaceFolder + "\\myinstallers\\Demo\\mainsettings.cfg",
+                          "Demo\r\nDemo Software Ltd.\r\n");
+    NoEditor noEditor;
+    start startWindow(*host, dialogs, [&]() -> ProjectEditor& { return noEditor; });
+    startWindow.ui().Combo1->setCurrentIndex(0);
+    startWindow.Combo1_Click();
 
-    const std::vector<Shot> shots{{"listview_report", &report},       {"listview_list", &list},
-                                  {"progressbar_states", bars.get()}, {"picture_control", pictures.get()},
-                                  {"folder_browser", &browser},       {"about", &aboutWindow},
-                                  {"packages", &packagesWindow},      {"optionsfrm", &optionsWindow}};
+    const std::vector<Shot> shots{{"listview_report", &report},
+                                  {"listview_list", &list},
+                                  {"progressbar_states", bars.get()},
+                                  {"picture_control", pictures.get()},
+                                  {"folder_browser", &browser},
+                                  {"about", &aboutWindow},
+                                  {"packages", &packagesWindow},
+                                  {"optionsfrm", &optionsWindow},
+                                  {"start", &startWindow}};
     if (argc > 1) {
         render(shots, QString::fromLocal8Bit(argv[1]));
         return 0;

@@ -67,7 +67,11 @@ start::start(Host& host, Dialogs& dialogs, std::function<ProjectEditor&()> edito
     Form_Load();
 }
 
-start::~start() = default;
+// Children go after this class's part is gone; their last signals (a field losing the focus puts
+// its placeholder back) must not reach it.
+start::~start() {
+    for (QObject* child : findChildren<QObject*>()) child->disconnect(this);
+}
 
 QLabel* start::loading() const {
     return ui_->loading;
