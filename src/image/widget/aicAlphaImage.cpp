@@ -96,10 +96,7 @@ void aicAlphaImage::setAutoSize(bool value) {
 }
 
 void aicAlphaImage::setScaleMethod(std::int32_t value) {
-    if (value < kScaleToFit || value > kScaleCustom || value == scaleMethod_) return;
-    scaleMethod_ = value;
-    changed("Stretch");
-    pictureChanged();
+    if (value >= kScaleToFit && value <= kScaleCustom) redrawOnChange(scaleMethod_, value, "Stretch");
 }
 
 void aicAlphaImage::setStretchQuality(bool value) {
@@ -114,17 +111,11 @@ void aicAlphaImage::setOpacity(std::int32_t value) {
         opacity = std::llabs(std::int64_t{value}) % 100;
         if (opacity == 0) opacity = 100;
     }
-    if (opacity == opacity_) return;
-    opacity_ = static_cast<std::int32_t>(opacity);
-    changed("Opacity");
-    pictureChanged();
+    redrawOnChange(opacity_, static_cast<std::int32_t>(opacity), "Opacity");
 }
 
 void aicAlphaImage::setMirror(std::int32_t value) {
-    if (value < 0 || value > 3 || value == mirror_) return;
-    mirror_ = value;
-    changed("Mirror");
-    pictureChanged();
+    if (value >= 0 && value <= 3) redrawOnChange(mirror_, value, "Mirror");
 }
 
 void aicAlphaImage::setKeepOriginalFormat(bool value) {
@@ -132,10 +123,7 @@ void aicAlphaImage::setKeepOriginalFormat(bool value) {
 }
 
 void aicAlphaImage::setgrayScale(std::int32_t value) {
-    if (value < 0 || value > 8 || value - 1 == grayScale_) return;
-    grayScale_ = value - 1;
-    changed("GrayScale");
-    pictureChanged();
+    if (value >= 0 && value <= 8) redrawOnChange(grayScale_, value - 1, "GrayScale");
 }
 
 void aicAlphaImage::setRotateEnabled(bool value) {
@@ -143,11 +131,7 @@ void aicAlphaImage::setRotateEnabled(bool value) {
 }
 
 void aicAlphaImage::setRotation(std::int32_t value) {
-    const std::int32_t angle = (value % 360 + 360) % 360;
-    if (angle == angle_) return;
-    angle_ = angle;
-    changed("Rotation");
-    pictureChanged();
+    redrawOnChange(angle_, (value % 360 + 360) % 360, "Rotation");
 }
 
 void aicAlphaImage::setEnabled(bool value) {
@@ -161,38 +145,23 @@ void aicAlphaImage::setShadowEnabled(bool value) {
 }
 
 void aicAlphaImage::setShadowColor(std::int32_t value) {
-    if (value == shadowColor_) return;
-    shadowColor_ = value;
-    changed("ShadowColor");
-    pictureChanged();
+    redrawOnChange(shadowColor_, value, "ShadowColor");
 }
 
 void aicAlphaImage::setShadowOffsetX(std::int32_t value) {
-    if (value == shadowX_) return;
-    shadowX_ = value;
-    changed("ShadowOffsetX");
-    pictureChanged();
+    redrawOnChange(shadowX_, value, "ShadowOffsetX");
 }
 
 void aicAlphaImage::setShadowOffsetY(std::int32_t value) {
-    if (value == shadowY_) return;
-    shadowY_ = value;
-    changed("ShadowOffsetY");
-    pictureChanged();
+    redrawOnChange(shadowY_, value, "ShadowOffsetY");
 }
 
 void aicAlphaImage::setShadowDepth(std::int32_t value) {
-    if (value < 0 || value > 10 || value == shadowDepth_) return;
-    shadowDepth_ = value;
-    changed("ShadowDepth");
-    pictureChanged();
+    if (value >= 0 && value <= 10) redrawOnChange(shadowDepth_, value, "ShadowDepth");
 }
 
 void aicAlphaImage::setShadowOpacity(std::int32_t value) {
-    if (value < 0 || value > 100 || value == shadowOpacity_) return;
-    shadowOpacity_ = value;
-    changed("ShadowOpacity");
-    pictureChanged();
+    if (value >= 0 && value <= 100) redrawOnChange(shadowOpacity_, value, "ShadowOpacity");
 }
 
 void aicAlphaImage::setMousePointer(std::int32_t value) {
@@ -217,10 +186,7 @@ void aicAlphaImage::setOLEDropMode(std::int32_t value) {
 }
 
 void aicAlphaImage::setIntensityOffset(float value) {
-    if (!(value >= -100 && value <= 100) || value == intensity_) return;
-    intensity_ = value;
-    changed("Intensity");
-    pictureChanged();
+    if (value >= -100 && value <= 100) redrawOnChange(intensity_, value, "Intensity");
 }
 
 void aicAlphaImage::OffsetShadow(std::int32_t ShadowX, std::int32_t ShadowY, bool SetOffsets) {

@@ -184,6 +184,14 @@ private:
     bool bit(std::uint32_t mask) const { return (properties_ & mask) != 0; }
     void setBit(std::uint32_t mask, bool value, const char* name);
     void changed(const char* name);
+    // Takes a new value of a property that only changes the drawing, marking it by its name.
+    template <typename T>
+    void redrawOnChange(T& property, T value, const char* name) {
+        if (property == value) return;
+        property = value;
+        changed(name);
+        pictureChanged();
+    }
     void pictureChanged();
     void imageChanged();
     bool afterLoad(bool loaded);
