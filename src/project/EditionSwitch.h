@@ -1,0 +1,18 @@
+#pragma once
+// Switching the editor to the working set of another edition or version.
+
+#include <optional>
+#include <string>
+
+#include "project/EditorContext.h"
+#include "project/ProjectLoader.h"
+
+namespace orvanta {
+
+// Saves the current working set, loads the one the two words address and shows the edition's
+// word in `editionName`. An edition without a version first turns `version` into "No versions".
+// The load's outcome, or nothing when no working set answered and the editor stays as it was.
+std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& edition,
+                                           std::string& version);
+
+}  // namespace orvanta

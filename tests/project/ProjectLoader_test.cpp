@@ -1,0 +1,224 @@
+#include "project/ProjectLoader.h"
+
+#include <random>
+
+#include "EditorFixture.h"
+#include "project/UninstallOptions.h"
+
+namespace orvanta {
+namespace {
+
+using namespace ctrl;
+using Items = std::vector<ListItem>;
+
+class ProjectLoaderTest : public EditorFixture {
+protected:
+    // A "mainsettings.cfg" as a new project saves it, with the given lines (numbered from 1) changed.
+    void writeSettings(const std::vector<std::pair<int, std::string>>& changed = {}) {
+        std::vector<std::string> settings(49, " 0 ");
+        for (const int text : {2, 5, 6, 9, 10, 13, 16, 18, 19, 22, 23, 26, 30, 32, 33, 34, 35, 36, 40})
+            settings[static_cast<std::size_t>(text - 1)].clear();
+        settings[0] = "Demo";
+        settings[23] = "NONE";
+        settings[43] = "s";
+        for (const auto& [line, text] : changed) settings[static_cast<std::size_t>(line - 1)] = text;
+        box.writeFile(rel("mainsettings.cfg"), linesText(settings));
+    }
+    LoadOutcome load() {
+        auto loading = context();
+        return loadProject(loading, root);
+    }
+    static std::string numbered(std::size_t count, const std::string& stem) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i) appendLine(text, stem + std::to_string(i));
+        return text;
+    }
+};
+
+TEST_F(ProjectLoaderTest, ReportsEachStepInOrderAndShowsTheEditor) {
+    writeSettings();
+    fields->setVisible(noway(0), false);
+    ASSERT_EQ(load(), LoadOutcome::Loaded);
+    std::vector<std::string> expected = {"controlTips: Loading..."};
+    for (const char* step :
+         {"...reading mainsettings file", "...reading tips file", "...reading intro file",
+          "...reading uninstall intro file", "...reading uninstall end file", "...reading license/notes file",
+          "...reading uninstall registry locations file", "...reading uninstall appdata settings file",
+          "...reading dependencies file", "...reading application files file",
+          "...reading application folders file", "...reading application msi files",
+          "...reading executables file", "...reading fonts file", "...loading background image",
+          "...loading logo image", "...loading preview image", "...applying other frontend settings"}) {
+        expected.push_back(std::string("start.loading: ") + step);
+        expected.push_back("events");
+    }
+    expected.push_back("controlTips: ");
+    EXPECT_EQ(fields->journal(), expected);
+    EXPECT_EQ(fields->control(mainfrm).caption, "Orvanta ~ " + root);
+    EXPECT_TRUE(fields->visible(mainfrm));
+    EXPECT_TRUE(fields->enabled(mainfrm));
+    // Without logo, licence or packages the placeholders show.
+    EXPECT_TRUE(fields->visible(noway(0)) && fields->visible(noway(1)));
+    EXPECT_EQ(fields->control(Command15).caption, "Add logo");
+    EXPECT_EQ(fields->text(Text10), "<>");
+    EXPECT_FALSE(fields->enabled(Command8) || fields->enabled(Command41));
+    EXPECT_EQ(fields->control(Command35).caption, "Manage packages \r\n0 package(s)");
+}
+
+TEST_F(ProjectLoaderTest, AMainSettingsFileThatCannotBeOpenedStopsTheLoad) {
+    EXPECT_EQ(load(), LoadOutcome::MainSettingsMissing);
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
+    EXPECT_EQ(
+        dialogs.messageBoxes[0].text,
+        "mainsettings.cfg file not found. The mainsettings file stores most of the settings of the project.");
+    EXPECT_EQ(dialogs.messageBoxes[0].icon, MessageIcon::Critical);
+    EXPECT_EQ(fields->journal(),
+              (std::vector<std::string>{"controlTips: Loading...",
+                                        "start.loading: ...reading mainsettings file", "events"}));
+    EXPECT_FALSE(fields->enabled(mainfrm));
+
+    box.makeFolder(rel("mainsettings.cfg"));
+    EXPECT_EQ(load(), LoadOutcome::MainSettingsUnreadable);
+    EXPECT_EQ(dialogs.messageBoxes.at(1).text, "Path/File access error (" + root + "\\mainsettings.cfg)");
+}
+
+TEST_F(ProjectLoaderTest, LinesReadOverOrTakenApart) {
+    fields->setValue(Option2, 1);
+    fields->setText(fullLicenseFile, "kept only until the load");
+    writeSettings({{3, "x"},
+                   {4, "1.7"},
+                   {5, "license.rtf"},
+                   {13, " "},
+                   {23, "Other caption"},
+                   {24, "WHATEVER"},
+                   {26, "readme.txt"},
+                   {32, "http://support"},
+                   {40, "Gold"},
+                   {44, "i"}});
+    fields->setValue(startMenuShortcut, 1);
+    load();
+    EXPECT_EQ(fields->value(startMenuShortcut), 1) << "a flag that is no number keeps the box";
+    EXPECT_EQ(fields->value(desktopShortcut), 1) << "the integer part";
+    EXPECT_EQ(fields->value(Check23), 0) << "a blank executable name";
+    EXPECT_EQ(fields->text(licenseButtonCaption), "Read full license");
+    EXPECT_EQ(fields->text(editionName), "No editions");
+    EXPECT_EQ(fields->text(fullLicenseFile), "kept only until the load") << "line 5 is read over";
+    EXPECT_EQ(fields->value(Option2), 1) << "an unknown word selects nothing";
+    EXPECT_TRUE(fields->enabled(Command38));
+    EXPECT_EQ(fields->text(supportLink), "http://support");
+    EXPECT_FALSE(fields->control(supportLink).placeholderLook);
+    EXPECT_EQ(fields->value(Check15), 1);
+    EXPECT_TRUE(fields->control(helpLink).placeholderLook) << "an empty line leaves the placeholder";
+    EXPECT_EQ(fields->value(Option5), 1);
+    EXPECT_FALSE(fields->enabled(updateIgnoreLicense));
+    EXPECT_TRUE(fields->enabled(updateSilent) && fields->enabled(updateRunApp));
+
+    for (const auto& [line, check] : {std::pair{".exe", 0}, {".EXE", 1}, {"demo.exe", 1}}) {
+        fields->setValue(Check23, 1);
+        writeSettings({{13, line}});
+        load();
+        EXPECT_EQ(fields->value(Check23), check) << line;
+    }
+}
+
+TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
+    writeSettings();
+    fields->addListItems(registryLocations, {"old registry"});
+    fields->addListItems(appDataLocations, {"old data"});
+    fields->addListItems(fonts, {"old.ttf"});
+    fields->addListItems(files, {"old.exe"});
+    fields->addListItem(dependencies, "old.ocx", true);
+    box.writeFile(rel("registrylocations.cfg"), "<>\r\nignored\r\n");
+    box.writeFile(rel("fonts.cfg"), "");
+    box.writeFile(rel("files.cfg"), "a.exe\r\n");
+    box.writeFile(rel("dependencies.cfg"), "x.ocx\r\n 1 \r\ny.dll\r\n0\r\n");
+    load();
+    EXPECT_EQ(fields->listItems(registryLocations), (Items{{"old registry"}}));
+    EXPECT_EQ(fields->listItems(appDataLocations), (Items{{"old data"}})) << "no file";
+    EXPECT_EQ(fields->listCount(fonts), 0u);
+    EXPECT_EQ(fields->listItems(files), (Items{{"old.exe"}, {"a.exe"}}));
+    EXPECT_EQ(fields->listItems(dependencies), (Items{{"x.ocx", true}, {"y.dll", false}}));
+
+    box.writeFile(rel("fonts.cfg"), "<>\r\n");
+    fields->addListItems(fonts, {"kept.ttf"});
+    load();
+    EXPECT_EQ(fields->listItems(fonts), (Items{{"kept.ttf"}}));
+    EXPECT_EQ(fields->listCount(files), 3u) << "a second load adds again";
+}
+
+TEST(UninstallOptions, FollowTheLocationLists) {
+    struct Row {
+        bool registry, appData, option1, option2;
+    };
+    for (const auto row : {Row{true, false, false, true}, Row{true, true, true, true},
+                           Row{false, true, true, false}, Row{false, false, false, false}}) {
+        MemoryProjectFields fields;
+        if (row.registry) fields.addListItems(registryLocations, {"HKCU\\Software\\Demo"});
+        if (row.appData) fields.addListItems(appDataLocations, {"ROAMING\\Demo"});
+        fields.setEnabled(Option3, false);
+        re_uninoptions(fields);
+        EXPECT_EQ(fields.enabled(Option1), row.option1);
+        EXPECT_EQ(fields.enabled(Option2), row.option2);
+        EXPECT_TRUE(fields.enabled(Option3));
+    }
+}
+
+TEST_F(ProjectLoaderTest, PackagesLogoAndLicenceSwitchTheirControls) {
+    writeSettings();
+    packageTables.entries[2].name = "from an earlier project";
+    box.writeFile(rel("packages.cfg"), numbered(14, "field "));
+    box.writeFile(rel("logo.png"), "PNG");
+    box.writeFile(rel("slicense.txt"), "terms\r\n");
+    fields->setText(fullLicenseFile, "license.rtf");
+    load();
+    EXPECT_EQ(packageTables.count, 2u);
+    EXPECT_EQ(packageTables.entries[1].removeByDefault, "field 13");
+    EXPECT_EQ(packageTables.entries[2].name, "from an earlier project");
+    EXPECT_EQ(fields->control(Command35).caption, "Manage packages \r\n2 package(s)");
+    EXPECT_EQ(fields->control(logo2).picture, root + "\\logo.png");
+    EXPECT_TRUE(fields->visible(noway(0)));
+    EXPECT_FALSE(fields->visible(noway(1)));
+    EXPECT_TRUE(fields->enabled(Command40));
+    EXPECT_EQ(fields->control(Command15).caption, "Replace logo");
+    EXPECT_EQ(fields->value(resumedLicenseEnabled), 1);
+    EXPECT_EQ(fields->text(resumedLicenseText), "terms");
+    EXPECT_EQ(fields->text(Text10), "slicense.txt");
+    EXPECT_TRUE(fields->enabled(Command41));
+}
+
+TEST_F(ProjectLoaderTest, DamagedFilesNeverStopTheLoad) {
+    std::mt19937 random(7);
+    const char* names[] = {
+        "mainsettings.cfg", "intro.cfg",       "tips.cfg",    "slicense.txt", "registrylocations.cfg",
+        "dependencies.cfg", "files.cfg",       "folders.cfg", "fonts.cfg",    "packages.cfg",
+        "msi.cfg",          "executables.cfg", "1.jpg",       "logo.png"};
+    for (int round = 0; round < 20; ++round) {
+        for (const char* name : names) {
+            std::string bytes(random() % 3000, '\0');
+            for (char& c : bytes)
+                c = random() % 4 == 0 ? "\r\n\0 "[random() % 4] : static_cast<char>(random() % 256);
+            box.writeFile(rel(name), bytes);
+        }
+        fields = freshEditor();
+        EXPECT_EQ(load(), LoadOutcome::Loaded) << round;
+        EXPECT_TRUE(fields->visible(mainfrm));
+    }
+}
+
+TEST_F(ProjectLoaderTest, OverlongFilesAreCutAtTheirBuffers) {
+    writeSettings();
+    const std::string huge = numbered(200'000, "line ");
+    for (const char* name : {"files.cfg", "folders.cfg", "fonts.cfg", "registrylocations.cfg",
+                             "dependencies.cfg", "packages.cfg", "intro.cfg", "executables.cfg"})
+        box.writeFile(rel(name), huge);
+    ASSERT_EQ(load(), LoadOutcome::Loaded);
+    EXPECT_EQ(fields->listCount(files), 100'001u);
+    EXPECT_EQ(fields->listItems(folders).back().text, "line 100000");
+    EXPECT_EQ(fields->listCount(fonts), 51u);
+    EXPECT_EQ(fields->listCount(registryLocations), 51u);
+    EXPECT_EQ(fields->listCount(dependencies), 101u);
+    EXPECT_EQ(packageTables.count, 1'001u);
+    EXPECT_TRUE(fields->text(introText).ends_with("\r\nline 50"));
+}
+
+}  // namespace
+}  // namespace orvanta

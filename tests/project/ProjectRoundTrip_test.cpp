@@ -1,0 +1,167 @@
+// Save an editor, load it into a fresh one, compare.
+#include <utility>
+
+#include "EditorFixture.h"
+#include "project/ProjectLoader.h"
+#include "project/ProjectSaver.h"
+
+namespace orvanta {
+namespace {
+
+using namespace ctrl;
+
+// Line numbers of "mainsettings.cfg" as the file format fixes them, independent of the code.
+const std::vector<std::pair<ControlName, int>> kFlagLines = {
+    {startMenuShortcut, 3},    {desktopShortcut, 4},      {startupOption, 7},     {startupChecked, 8},
+    {quickLaunchShortcut, 11}, {quickLaunchChecked, 12},  {noRepair, 14},         {noModify, 15},
+    {rollEffect, 17},          {authorFolder, 20},        {instantInstall, 21},   {cleanAll, 25},
+    {lockInstallPath, 27},     {desktopChecked, 28},      {startMenuChecked, 29}, {startupAllUsers, 31},
+    {startupRequired, 37},     {appIconOnRootFolder, 38}, {noUninstaller, 39},    {showEditionName, 41},
+    {justRunMode, 42},         {updateIgnoreLicense, 45}, {updateRunApp, 46},     {updateSilent, 47},
+    {createRestorePoint, 48},
+};
+
+const std::vector<std::tuple<ControlName, int, std::string>> kTextLines = {
+    {appAuthor, 2, "Ann Example"},
+    {shortcutTooltip, 6, "Open Demo"},
+    {website, 9, "http://demo.example"},
+    {mainExecutable, 13, "demo.exe"},
+    {appVersion, 16, "2.5"},
+    {installPath, 18, "Program Files\\Demo Apps"},
+    {minWindowsVersion, 19, "Windows 7"},
+    {licenseTitle, 22, "Terms"},
+    {anyFile, 26, "readme.txt"},
+    {startupArguments, 30, "-tray"},
+    {supportLink, 32, "http://support"},
+    {helpLink, 33, "http://help"},
+    {updateInfoLink, 34, "http://news"},
+    {finalPackageName, 35, "demo-%version.exe"},
+    {shortcutArguments, 36, "-open"},
+};
+
+class ProjectRoundTrip : public EditorFixture {
+protected:
+    void fillForm() {
+        for (const auto& [control, line, text] : kTextLines) {
+            fields->setText(control, text);
+            fields->setPlaceholderLook(control, false);
+        }
+        for (const auto control : {Check15, Check31, Check32, Option2, Option5}) fields->setValue(control, 1);
+        fields->setText(introText, "Welcome\r\n\r\nsecond paragraph");
+        fields->setText(tipsText, "tip one\r\ntip two");
+        fields->setText(uninstallIntroText, "Remove Demo?");
+        fields->setText(uninstallEndText, "Thanks for using Demo!\r\n");
+        fields->setValue(resumedLicenseEnabled, 1);
+        fields->setText(resumedLicenseText, "Short licence\r\nline two");
+        fields->setText(Text10, "slicense.txt");
+        fields->addListItems(registryLocations, {"HKCU\\Software\\Demo", "HKLM\\Software\\Demo"});
+        fields->addListItems(appDataLocations, {"ROAMING\\Demo"});
+        fields->addListItem(dependencies, "a.ocx", true);
+        fields->addListItem(dependencies, "b.dll", false);
+        fields->addListItems(fonts, {"demo.ttf"});
+        box.writeFile(rel("readme.txt"), "read me");
+        box.writeFile(rel("files\\demo.exe"), "MZ");
+        box.writeFile(rel("files\\sub\\data.bin"), "12345");
+    }
+};
+
+TEST_F(ProjectRoundTrip, EveryFieldComesBackButTheThreeNoFileStores) {
+    fillForm();
+    fields->setText(licenseButtonCaption, "Show terms");
+    fields->setText(editionName, "Gold");
+    fields->setText(fullLicenseFile, "license.rtf");
+    auto saving = context();
+    ASSERT_EQ(project_saver(saving), SaveOutcome::Saved);
+
+    const auto saved = lines("mainsettings.cfg");
+    ASSERT_EQ(saved.size(), 49u);
+    for (const auto& [control, line, text] : kTextLines)
+        EXPECT_EQ(saved[static_cast<std::size_t>(line - 1)], text) << control.name;
+    EXPECT_EQ(saved[0], "Demo");
+    EXPECT_EQ(saved[4], "") << "the full licence file has no line of its own";
+    EXPECT_EQ(saved[9], "7") << "the size of \\files, recomputed";
+    EXPECT_EQ(saved[22], "Show terms");
+    EXPECT_EQ(saved[23], "REGDEL");
+    EXPECT_EQ(saved[39], "Gold");
+    EXPECT_EQ(saved[43], "i");
+    EXPECT_EQ(vars::finalPackageFile, "demo-2.5.exe");
+
+    auto loaded = freshEditor();
+    auto loading = context(*loaded);
+    ASSERT_EQ(loadProject(loading, root), LoadOutcome::Loaded);
+    EXPECT_EQ(loaded->text(licenseButtonCaption), "Read full license");
+    EXPECT_EQ(loaded->text(editionName), "No editions");
+    EXPECT_EQ(loaded->text(fullLicenseFile), "");
+    for (const auto& [key, original] : fields->controls()) {
+        if (key == "licenseButtonCaption" || key == "editionName" || key == "fullLicenseFile") continue;
+        const auto& copy = loaded->controls().at(key);
+        EXPECT_EQ(copy.text, original.text) << key;
+        EXPECT_EQ(copy.value, original.value) << key;
+        EXPECT_EQ(copy.items, original.items) << key;
+        EXPECT_EQ(copy.placeholderLook, original.placeholderLook) << key;
+    }
+    EXPECT_EQ(loaded->listItems(files), (std::vector<ListItem>{{"demo.exe"}, {"sub\\data.bin"}}));
+}
+
+TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
+    for (const auto& [flag, line] : kFlagLines) {
+        fields = freshEditor();
+        fields->setText(appName, "Demo");
+        fields->setText(workingFolder, root);
+        fields->setValue(Option1, 1);
+        fields->setValue(Option4, 1);
+        fields->setValue(flag, 1);
+        auto saving = context();
+        project_saver(saving);
+        const auto saved = lines("mainsettings.cfg");
+        ASSERT_EQ(saved.size(), 49u);
+        for (std::size_t i = 0; i < saved.size(); ++i) {
+            EXPECT_TRUE(saved[i] != " 1 " || i + 1 == static_cast<std::size_t>(line))
+                << flag.name << " on line " << i + 1;
+        }
+
+        auto loaded = freshEditor();
+        auto loading = context(*loaded);
+        loadProject(loading, root);
+        for (const auto& [other, unused] : kFlagLines)
+            EXPECT_EQ(loaded->value(other), other == flag ? 1 : 0)
+                << flag.name << " loaded into " << other.name;
+    }
+}
+
+TEST_F(ProjectRoundTrip, PlaceholdersAreNeverStoredAndComeBackAsPlaceholders) {
+    fields->setText(helpLink, "Help link");  // typed by hand, the look already normal
+    fields->setPlaceholderLook(helpLink, false);
+    fields->setValue(Check31, 1);
+    auto saving = context();
+    project_saver(saving);
+    const auto saved = lines("mainsettings.cfg");
+    for (const int line : {6, 30, 32, 33, 34, 36}) EXPECT_EQ(saved[static_cast<std::size_t>(line - 1)], "");
+
+    auto loaded = freshEditor();
+    auto loading = context(*loaded);
+    loadProject(loading, root);
+    EXPECT_EQ(loaded->text(helpLink), "Help link");
+    EXPECT_TRUE(loaded->control(helpLink).placeholderLook);
+    EXPECT_EQ(loaded->value(Check31), 0);
+}
+
+TEST_F(ProjectRoundTrip, MultiLineTextsNeitherGrowNorShrinkOverSavesAndLoads) {
+    const std::string intro = "First\r\n\r\nends with an empty line\r\n";
+    fields->setText(introText, intro);
+    std::string firstFile;
+    for (int cycle = 0; cycle < 3; ++cycle) {
+        auto saving = context();
+        project_saver(saving);
+        const std::string file = box.readFile(rel("intro.cfg"));
+        if (cycle == 0) firstFile = file;
+        EXPECT_EQ(file, firstFile);
+        fields = freshEditor();
+        auto loading = context();
+        loadProject(loading, root);
+        EXPECT_EQ(fields->text(introText), intro);
+    }
+}
+
+}  // namespace
+}  // namespace orvanta
