@@ -1,0 +1,98 @@
+// Saving, the simulator's question and leaving the window: with the setting "saveAlways" at 1
+// the user is asked first, otherwise the project is saved without a word.
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "controls/about.h"
+#include "core/RegistryAPI.h"
+#include "core/commonFunctions.h"
+#include "core/vars.h"
+#include "editor/FormText.h"
+#include "editor/mainfrm.h"
+#include "ui_mainfrm.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr const char* kStartMenu = "Start menu";
+
+bool asksBeforeSaving(Host& host) {
+    return RegistryAPI(host).readSettingNumber(vars::settingsRootKey + "\\Settings", "saveAlways", 0) == 1;
+}
+
+}  // namespace
+
+bool mainfrm::askToSave(const std::string& question) {
+    TaskDialogRequest task;
+    task.instruction = "Save project";
+    task.content = question;
+    task.title = "Orvanta";
+    task.buttons = MessageButtons::YesNo;
+    task.icon = MessageIcon::Question;
+    return notifyUser(context_.host, context_.dialogs, task, question) == DialogAnswer::Yes;
+}
+
+void mainfrm::saveProject() {
+    if (context_.project_saver) context_.project_saver();
+}
+
+void mainfrm::pre_Click() {
+    if (!context_.showInstallPreview) return;
+    if (asksBeforeSaving(context_.host) &&
+        !askToSave(
+            "Do you want to save the current project changes? Project must be saved before simulation."))
+        return;  // no simulation of an unsaved project
+    saveProject();
+    context_.showInstallPreview();
+}
+
+// There is no Cancel: the window goes in every case, and the link decides where the user lands.
+void mainfrm::closeEvent(QCloseEvent* event) {
+    if (!asksBeforeSaving(context_.host) || askToSave("Do you want to save the current project changes?"))
+        saveProject();
+    const bool toStart = textOf(*ui_->Label21) == kStartMenu;
+    event->accept();
+    if (toStart) {
+        if (context_.showStart) context_.showStart();
+    } else if (context_.unloadStart) {
+        context_.unloadStart();
+    }
+}
+
+void mainfrm::Label21_Click() {
+    setTextOf(*ui_->Label21, kStartMenu);
+    close();
+}
+
+void mainfrm::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) startDrag();
+    QWidget::mousePressEvent(event);
+}
+
+// A press on the form or on the title line moves the window as its title bar would.
+void mainfrm::startDrag() {
+    if (QWindow* handle = window()->windowHandle()) handle->startSystemMove();
+}
+
+bool mainfrm::filterLinks(QObject* watched, QEvent* event) {
+    if (watched == ui_->controlTips && event->type() == QEvent::MouseButtonPress) {
+        startDrag();
+        return false;
+    }
+    if (event->type() != QEvent::MouseButtonRelease) return false;
+    if (watched == ui_->Label21) Label21_Click();
+    if (watched == ui_->Label22) Label22_Click();
+    if (watched == ui_->Label23) Label23_Click();
+    if (watched == ui_->Label24 && context_.showOptions) context_.showOptions();
+    if (watched == ui_->Label34) {
+        auto* window = new about(context_.host, context_.dialogs, this);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowModality(Qt::NonModal);
+        window->show();
+    }
+    return false;
+}
+
+}  // namespace orvanta

@@ -1,0 +1,153 @@
+#include "editor/settingsSetsfrm.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "controls/QtText.h"
+#include "core/CommondialogBox.h"
+#include "core/commonFunctions.h"
+#include "project/LineFile.h"
+#include "project/ProjectPaths.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::array<const char*, 3> kTypes = {"REG", "REGFILE", "EXE"};
+
+QString numbered(const char* name, int set) {
+    return QString::fromLatin1(name) + QString::number(set);
+}
+
+}  // namespace
+
+settingsSetsfrm::settingsSetsfrm(Host& host, Dialogs& dialogs, std::string workingFolder,
+                                 SettingsSetColumn& names, SettingsSetColumn& types, QWidget* parent)
+    : QDialog(parent),
+      host_(host),
+      dialogs_(dialogs),
+      workingFolder_(std::move(workingFolder)),
+      names_(names),
+      types_(types) {
+    setObjectName(QStringLiteral("settingsSetsfrm"));
+    setWindowTitle(QStringLiteral("Settings sets"));
+    buildRows();
+    for (int set = 0; set < kSettingsSetCount; ++set) readRow(set);
+}
+
+void settingsSetsfrm::buildRows() {
+    auto* grid = new QGridLayout(this);
+    const char* headings[] = {"Set", "Name", "Type", "File in \\settingsset"};
+    for (int column = 0; column < 4; ++column)
+        grid->addWidget(new QLabel(QString::fromLatin1(headings[column]), this), 0, column);
+    for (int set = 0; set < kSettingsSetCount; ++set) {
+        Row& row = rows_[static_cast<std::size_t>(set)];
+        row.name = new QLineEdit(this);
+        row.name->setObjectName(numbered("name", set));
+        row.type = new QComboBox(this);
+        row.type->setObjectName(numbered("type", set));
+        for (const char* type : kTypes) row.type->addItem(QString::fromLatin1(type));
+        row.member = new QLineEdit(this);
+        row.member->setObjectName(numbered("member", set));
+        row.member->setReadOnly(true);
+        auto* choose = new QPushButton(QStringLiteral("Choose..."), this);
+        choose->setObjectName(numbered("choose", set));
+        auto* clearButton = new QPushButton(QStringLiteral("Clear"), this);
+        clearButton->setObjectName(numbered("clear", set));
+        connect(choose, &QPushButton::clicked, this, [this, set] { this->choose(set); });
+        connect(clearButton, &QPushButton::clicked, this, [this, set] { clear(set); });
+        const int line = set + 1;
+        grid->addWidget(new QLabel(QString::number(set), this), line, 0);
+        grid->addWidget(row.name, line, 1);
+        grid->addWidget(row.type, line, 2);
+        grid->addWidget(row.member, line, 3);
+        grid->addWidget(choose, line, 4);
+        grid->addWidget(clearButton, line, 5);
+    }
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("Command1"));
+    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
+    cancel->setObjectName(QStringLiteral("Command2"));
+    connect(ok, &QPushButton::clicked, this, &settingsSetsfrm::Command1_Click);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    grid->addWidget(ok, kSettingsSetCount + 1, 4);
+    grid->addWidget(cancel, kSettingsSetCount + 1, 5);
+}
+
+std::string settingsSetsfrm::setFileText(const std::string& member, const std::string& name,
+                                         const std::string& type) {
+    return linesText({member, name, type});
+}
+
+// The tables come first; a set the tables do not know yet is taken from its file.
+void settingsSetsfrm::readRow(int set) {
+    const auto index = static_cast<std::size_t>(set);
+    Row& row = rows_[index];
+    const auto lines = readLines(host_, settingsSetFile(workingFolder_, set), 3);
+    std::string name = names_[index];
+    std::string type = types_[index];
+    if (name.empty() && lines && lines->size() >= 3) {
+        name = (*lines)[1];
+        type = (*lines)[2];
+    }
+    row.name->setText(toQString(name));
+    const int typeIndex = row.type->findText(toQString(type));
+    row.type->setCurrentIndex(typeIndex < 0 ? 0 : typeIndex);
+    row.member->setText(lines && !lines->empty() ? toQString(lines->front()) : QString());
+}
+
+void settingsSetsfrm::choose(int set) {
+    Row& row = rows_[static_cast<std::size_t>(set)];
+    const bool registry = row.type->currentText() == QLatin1String("REG");
+    const std::string filter = registry ? "Registry files|*.reg" : "All files|*.*";
+    const OpenFileResult picked = openFileDialog(dialogs_, filter, registry ? "*.reg" : "*.*", workingFolder_,
+                                                 "Select the file of the settings set");
+    if (picked.path.empty()) return;
+    const std::string folder = inFolder(workingFolder_, projectfolder::kSettingsSet);
+    if (!folderExists(host_, folder)) host_.createFolder(folder);
+    const std::string copy = inFolder(folder, picked.fileName);
+    if (!host_.copyFile(picked.path, copy) && !fileExists(host_, copy)) {
+        dialogs_.messageBox({"Could not copy " + picked.path + " to " + folder + ".", MessageButtons::Ok,
+                             MessageIcon::Exclamation, "Orvanta"});
+        return;
+    }
+    row.member->setText(toQString(picked.fileName));
+}
+
+void settingsSetsfrm::clear(int set) {
+    Row& row = rows_[static_cast<std::size_t>(set)];
+    row.name->clear();
+    row.member->clear();
+}
+
+void settingsSetsfrm::Command1_Click() {
+    for (int set = 0; set < kSettingsSetCount; ++set) writeRow(set);
+    accept();
+}
+
+// An unused set has an empty name and no file; its member file in the folder stays.
+void settingsSetsfrm::writeRow(int set) {
+    const auto index = static_cast<std::size_t>(set);
+    const Row& row = rows_[index];
+    const std::string name = fromQString(row.name->text().trimmed());
+    const std::string member = fromQString(row.member->text());
+    const std::string file = settingsSetFile(workingFolder_, set);
+    if (name.empty() || member.empty()) {
+        names_[index].clear();
+        types_[index].clear();
+        if (fileExists(host_, file)) host_.deleteFile(file);
+        return;
+    }
+    names_[index] = name;
+    types_[index] = fromQString(row.type->currentText());
+    const std::string folder = inFolder(workingFolder_, projectfolder::kSettingsSet);
+    if (!folderExists(host_, folder)) host_.createFolder(folder);
+    if (!host_.writeFileAtomic(file, setFileText(member, name, types_[index])))
+        dialogs_.messageBox(
+            {"Could not write " + file + ".", MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
+}
+
+}  // namespace orvanta

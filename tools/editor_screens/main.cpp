@@ -1,0 +1,77 @@
+// Renders each page of the editor window into PNG files in the folder given as the argument, with
+// a small project filled in so that lists and fields show what they hold.
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "controls/QtDialogs.h"
+#include "editor/mainfrm.h"
+#include "image/widget/cCrossComm.h"
+#include "platform/Host.h"
+
+namespace {
+
+template <typename T>
+T* control(orvanta::mainfrm& window, const char* name) {
+    return window.findChild<T*>(QString::fromLatin1(name));
+}
+
+void fillSample(orvanta::mainfrm& window) {
+    control<QLineEdit>(window, "Text1")->setText(QStringLiteral("Demo App"));
+    control<QLineEdit>(window, "Text9")->setText(QStringLiteral("Demo Software Ltd"));
+    control<QLineEdit>(window, "Text6")->setText(QStringLiteral("https://demo.example"));
+    control<QLineEdit>(window, "Text2")
+        ->setText(QStringLiteral("Z:\\home\\ann\\Documents\\Orvanta\\myinstallers\\Demo App"));
+    window.appname_updater();
+    control<QLineEdit>(window, "Text21")->setText(QStringLiteral("demo.exe"));
+    for (const char* file : {"demo.exe", "readme.txt", "lib\\core.dll", "lib\\plugins\\ocr.ocx"})
+        control<QListWidget>(window, "List6")->addItem(QString::fromLatin1(file));
+    for (const char* folder : {"lib", "lib\\plugins"})
+        control<QListWidget>(window, "List7")->addItem(QString::fromLatin1(folder));
+    control<QListWidget>(window, "List2")->addItem(QStringLiteral("DemoSans.ttf"));
+    control<QListWidget>(window, "List3")->addItem(QStringLiteral("HKCU\\Software\\Demo App"));
+    control<QListWidget>(window, "List4")->addItem(QStringLiteral("ROAMING\\Demo App"));
+    control<QComboBox>(window, "Combo5")->setEditText(QStringLiteral("<>"));
+    control<QCheckBox>(window, "Check3")->setChecked(true);
+    control<QCheckBox>(window, "Check28")->setChecked(true);
+    control<QPlainTextEdit>(window, "Text11")
+        ->setPlainText(QStringLiteral("Welcome to the setup of Demo App."));
+    window.re_uninoptions();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace orvanta;
+    QApplication application(argc, argv);
+    // A host of its own, so the pictures never touch the user's settings or simulated drive.
+    QTemporaryDir data;
+    HostConfig config;
+    config.dataFolder = data.path().toStdString();
+    const std::unique_ptr<Host> host = createHost(config);
+    cCrossComm::instance().setHost(host.get());
+    QtDialogs dialogs(*host);
+    mainfrm window(mainfrmContext{*host, dialogs});
+    fillSample(window);
+    window.show();
+    if (argc < 2) return QApplication::exec();
+
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(folder);
+    const char* pages[] = {"general", "installer", "uninstaller"};
+    for (int page = 0; page < 3; ++page) {
+        window.findChild<QTabBar*>(QStringLiteral("TabStrip1"))->setCurrentIndex(page);
+        QApplication::processEvents();
+        const QString file =
+            folder + QStringLiteral("/mainfrm_") + QString::fromLatin1(pages[page]) + QStringLiteral(".png");
+        if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
+    }
+    return 0;
+}
