@@ -50,7 +50,9 @@ int main(int argc, char** argv) {
         const MainOutcome outcome = Main(*host, dialogs, windows.handOver());
         if (outcome == MainOutcome::SupportFileMissing) return 1;
     } catch (const RuntimeError& error) {
-        endWithError(QStringLiteral("Run-time error '%1':\n\n%2").arg(error.number()).arg(toQString(error.description())));
+        endWithError(QStringLiteral("Run-time error '%1':\n\n%2")
+                         .arg(error.number())
+                         .arg(toQString(error.description())));
     }
     if (!windows.anyVisible()) return 0;
     application.setQuitOnLastWindowClosed(true);

@@ -1,8 +1,8 @@
 #include "controls/PlaceholderText.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
-#include <QStyle>
 
 namespace orvanta {
 
@@ -26,9 +26,8 @@ void PlaceholderText::setPlaceholderLook(QLineEdit* field, bool placeholderLook)
     font.setItalic(placeholderLook);
     field->setFont(font);
     QPalette palette = field->palette();
-    palette.setColor(QPalette::Text, placeholderLook
-                                         ? QColor(0x80, 0x80, 0x80)
-                                         : field->style()->standardPalette().color(QPalette::Text));
+    palette.setColor(QPalette::Text, placeholderLook ? QColor(0x80, 0x80, 0x80)
+                                                     : QApplication::palette().color(QPalette::Text));
     field->setPalette(palette);
 }
 

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QRadioButton>
 
+#include "controls/PlaceholderText.h"
 #include "core/SpecialFolderAPI.h"
 #include "editor/FormText.h"
 #include "editor/InstallPathRules.h"
@@ -91,13 +92,7 @@ void mainfrm::countCharacters() {
 }
 
 void mainfrm::setPlaceholderLook(QLineEdit& box, bool on) {
-    QFont font = box.font();
-    font.setItalic(on);
-    box.setFont(font);
-    QPalette colours = box.palette();
-    colours.setColor(QPalette::Text,
-                     on ? QColor(0x80, 0x80, 0x80) : QApplication::palette().color(QPalette::Text));
-    box.setPalette(colours);
+    PlaceholderText::setPlaceholderLook(&box, on);
 }
 
 void mainfrm::placeholderFocusIn(QLineEdit& box) {

@@ -1,0 +1,151 @@
+#include "app/ApplicationWindows.h"
+
+#include <QApplication>
+#include <QLabel>
+
+#include "controls/QtText.h"
+#include "editor/mainfrm.h"
+#include "editor/mainfrmFields.h"
+#include "editor/optionsfrm.h"
+#include "editor/packages.h"
+#include "project/EditorControls.h"
+#include "project/ProjectLoader.h"
+#include "project/ProjectSaver.h"
+#include "project/window/start.h"
+
+namespace orvanta {
+
+ApplicationWindows::ApplicationWindows(Host& host, Dialogs& dialogs) : host_(host), dialogs_(dialogs) {}
+
+ApplicationWindows::~ApplicationWindows() {
+    fields_.reset();
+    delete editor_.data();
+    delete start_.data();
+}
+
+start* ApplicationWindows::startWindow() const {
+    return start_;
+}
+
+mainfrm* ApplicationWindows::editorWindow() const {
+    return editor_;
+}
+
+MainHandOver ApplicationWindows::handOver() {
+    return {[this] { showStart(); }, [this](const std::string& folder) { openProject(folder); }};
+}
+
+bool ApplicationWindows::anyVisible() const {
+    return (start_ != nullptr && start_->isVisible()) || (editor_ != nullptr && editor_->isVisible());
+}
+
+start& ApplicationWindows::ensureStart() {
+    if (start_ == nullptr) {
+        start_ = new start(host_, dialogs_, [this]() -> ProjectEditor& { return *this; });
+        start_->setAttribute(Qt::WA_DeleteOnClose);
+        QObject::connect(start_, &start::unloaded, start_, &QObject::deleteLater);
+    }
+    return *start_;
+}
+
+void ApplicationWindows::showStart() {
+    ensureStart().show();
+}
+
+// Leaving the editor any way but to the index ends the program: the index goes too.
+void ApplicationWindows::unloadStart() {
+    if (start_ != nullptr) start_->deleteLater();
+}
+
+mainfrm& ApplicationWindows::ensureEditor() {
+    if (editor_ != nullptr) return *editor_;
+    mainfrmContext context(host_, dialogs_);
+    context.project_saver = [this] {
+        EditorContext saving = editorContext();
+        project_saver(saving);
+    };
+    context.showPackages = [this] { showPackages(); };
+    context.showOptions = [this] { showOptions(); };
+    context.showStart = [this] { showStart(); };
+    context.unloadStart = [this] { unloadStart(); };
+    editor_ = new mainfrm(context);
+    editor_->setAttribute(Qt::WA_DeleteOnClose);
+    fields_ = std::make_unique<mainfrmFields>(*editor_,
+                                              [this](const std::string& text) { showStatusOnStart(text); });
+    QObject::connect(editor_, &QObject::destroyed, [this] { fields_.reset(); });
+    return *editor_;
+}
+
+void ApplicationWindows::unloadEditor() {
+    fields_.reset();
+    delete editor_.data();
+}
+
+EditorContext ApplicationWindows::editorContext() {
+    ensureEditor();
+    return {host_, dialogs_, *fields_};
+}
+
+void ApplicationWindows::showStatusOnStart(const std::string& text) {
+    if (start_ != nullptr) start_->loading()->setText(toQString(text));
+}
+
+void ApplicationWindows::beginNewProject(const std::string& name, const std::string& author,
+                                         const std::string& projectRoot) {
+    ensureEditor();
+    fields_->setText(ctrl::appName, name);
+    fields_->setCaption(ctrl::mainfrm, "Orvanta ~ " + name);
+    if (!author.empty()) fields_->setText(ctrl::appAuthor, author);
+    fields_->setText(ctrl::workingFolder, projectRoot);
+}
+
+void ApplicationWindows::showLogo(const std::string& logoPath) {
+    ensureEditor();
+    fields_->loadPicture(ctrl::logo, logoPath);
+    fields_->setVisible(ctrl::noway(1), false);
+}
+
+void ApplicationWindows::showBackground(const std::string& backgroundPath) {
+    ensureEditor();
+    fields_->loadPicture(ctrl::aicAlphaImage3, backgroundPath);
+}
+
+void ApplicationWindows::showAndSave() {
+    ensureEditor().show();
+    EditorContext saving = editorContext();
+    project_saver(saving);
+}
+
+// A failed load has told the user why; the editor goes and the index stays as it is, disabled.
+bool ApplicationWindows::openProject(const std::string& projectRoot) {
+    EditorContext loading = editorContext();
+    if (loadProject(loading, projectRoot) != LoadOutcome::Loaded) {
+        unloadEditor();
+        return false;
+    }
+    editor_->show();
+    editor_->setEnabled(true);
+    if (start_ != nullptr) {
+        start_->hide();
+        start_->setEnabled(true);
+    }
+    return true;
+}
+
+void ApplicationWindows::showPackages() {
+    mainfrm& editor = ensureEditor();
+    PackagesContext context{
+        [this] { return fields_->text(ctrl::appName); },
+        [this] { return fields_->text(ctrl::workingFolder); },
+        [this](const std::string& caption) { fields_->setCaption(ctrl::Command35, caption); },
+        [&editor](const std::string& tip) { editor.showTip(tip); }};
+    packages window(host_, dialogs_, std::move(context), packageTables, &editor);
+    window.exec();
+}
+
+void ApplicationWindows::showOptions() {
+    optionsfrm window(host_, &ensureEditor());
+    window.exec();
+}
+
+}  // namespace orvanta

@@ -1,0 +1,58 @@
+#pragma once
+// The windows of the running program, each made on first use and gone when unloaded, and the
+// ties between them: the index hands a project to the editor, the editor's hooks open the
+// managers and lead back to the index.
+
+#include <QPointer>
+#include <memory>
+#include <string>
+
+#include "core/Dialogs.h"
+#include "core/StartBitch.h"
+#include "platform/Host.h"
+#include "project/EditorContext.h"
+#include "project/window/ProjectEditor.h"
+
+namespace orvanta {
+
+class mainfrm;
+class mainfrmFields;
+class start;
+
+class ApplicationWindows : public ProjectEditor {
+public:
+    ApplicationWindows(Host& host, Dialogs& dialogs);
+    ~ApplicationWindows() override;
+
+    MainHandOver handOver();
+    bool anyVisible() const;
+    start* startWindow() const;
+    mainfrm* editorWindow() const;
+    mainfrmFields* fields() const { return fields_.get(); }
+
+    void beginNewProject(const std::string& name, const std::string& author,
+                         const std::string& projectRoot) override;
+    void showLogo(const std::string& logoPath) override;
+    void showBackground(const std::string& backgroundPath) override;
+    void showAndSave() override;
+    bool openProject(const std::string& projectRoot) override;
+
+private:
+    start& ensureStart();
+    mainfrm& ensureEditor();
+    EditorContext editorContext();
+    void showStart();
+    void unloadStart();
+    void unloadEditor();
+    void showPackages();
+    void showOptions();
+    void showStatusOnStart(const std::string& text);
+
+    Host& host_;
+    Dialogs& dialogs_;
+    QPointer<start> start_;
+    QPointer<mainfrm> editor_;
+    std::unique_ptr<mainfrmFields> fields_;
+};
+
+}  // namespace orvanta
