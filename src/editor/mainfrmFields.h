@@ -1,9 +1,10 @@
 #pragma once
-// The editor window's controls as the loader and the saver reach them: each field name leads to
-// the control of the window that holds it, and each kind of control answers in its own way.
+// The editor window's controls as the loader and the saver reach them: a field name ("appName")
+// finds its control ("Text1"), any other name the control of that name, and "noway" with an
+// index an element of the window's control array.
 
-#include <QString>
 #include <functional>
+#include <string>
 
 #include "project/ProjectFields.h"
 
@@ -15,8 +16,11 @@ class mainfrm;
 
 class mainfrmFields : public ProjectFields {
 public:
-    // `startLoading` shows a progress text on the project index window.
-    mainfrmFields(mainfrm& window, std::function<void(const std::string&)> startLoading);
+    // `startLoading` shows a progress text in the project index window; empty: nowhere.
+    explicit mainfrmFields(mainfrm& window, std::function<void(const std::string&)> startLoading = {});
+
+    // The control behind a name; null for a name the window does not have.
+    QWidget* find(ControlName control) const;
 
     std::string text(ControlName control) const override;
     void setText(ControlName control, const std::string& text) override;
@@ -42,10 +46,11 @@ public:
     void showStatus(StatusLabel label, const std::string& text) override;
     void processPendingEvents() override;
 
-    // The window's control of that name; null for a name the window does not have.
-    QWidget* control(ControlName control) const;
-
 private:
+    // The control of that name and type; a missing one is a fault of the caller, reported by name.
+    template <typename T>
+    T& as(ControlName control) const;
+
     mainfrm& window_;
     std::function<void(const std::string&)> startLoading_;
 };

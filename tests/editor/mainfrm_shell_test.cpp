@@ -1,0 +1,148 @@
+// The window's shell: pages, the tip line, saving, and leaving with or without the question.
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QTabBar>
+
+#include "EditorFixture.h"
+#include "image/widget/aicAlphaImage.h"
+
+namespace orvanta::testing {
+namespace {
+
+using Shell = EditorFixture;
+
+void pointerEnters(QWidget& widget) {
+    QEvent enter(QEvent::Enter);
+    QCoreApplication::sendEvent(&widget, &enter);
+}
+
+TEST_F(Shell, TabsAndLinksShowOnePageWithItsHeaderPicture) {
+    auto& strip = get<QTabBar>("TabStrip1");
+    ASSERT_EQ(strip.count(), 3);
+    EXPECT_EQ(window->shownPage(), 1);
+    strip.setCurrentIndex(2);
+    EXPECT_EQ(window->shownPage(), 3);
+    EXPECT_FALSE(window->modeimg[0]->isVisibleTo(window.get()));
+    EXPECT_TRUE(window->modeimg[2]->isVisibleTo(window.get()));
+
+    window->Label22_Click();
+    EXPECT_EQ(window->shownPage(), 2);
+    EXPECT_TRUE(window->modeimg[1]->isVisibleTo(window.get()));
+    EXPECT_EQ(strip.currentIndex(), 2);
+    // A strip event without a change of tab shows that tab's page again.
+    window->TabStrip1_Click();
+    EXPECT_EQ(window->shownPage(), 3);
+}
+
+TEST_F(Shell, TipLineShowsEachControlsTextUntilAnotherReplacesIt) {
+    pointerEnters(get<QWidget>("Check33"));
+    EXPECT_EQ(text("tips"),
+              "Forces 'run application at startup' to be applied. The user won't be able to change it.");
+    pointerEnters(get<QWidget>("Picture2"));  // a plain area without a tip
+    EXPECT_EQ(text("tips"),
+              "Forces 'run application at startup' to be applied. The user won't be able to change it.");
+    pointerEnters(get<QWidget>("Command32"));
+    EXPECT_EQ(text("tips"), "Seek for files on the folder and adds them automatically.");
+    pointerEnters(get<QWidget>("tips"));
+    EXPECT_EQ(text("tips"), "");
+}
+
+TEST_F(Shell, ImageButtonsShowATitleOnlyWhileThePointerIsOver) {
+    emit get<aicAlphaImage>("saver").MouseEnter();
+    EXPECT_EQ(text("controlTips"), "Save project");
+    EXPECT_EQ(text("tips"), "Saves every setting except packages and settings set");
+    emit get<aicAlphaImage>("saver").MouseExit();
+    EXPECT_EQ(text("controlTips"), "");
+    EXPECT_EQ(text("tips"), "Saves every setting except packages and settings set");
+    // Packaging is not offered yet, and says so.
+    EXPECT_FALSE(enabled("packageit"));
+    emit get<aicAlphaImage>("packageit").MouseEnter();
+    EXPECT_NE(text("tips").find("later version"), std::string::npos);
+}
+
+TEST_F(Shell, SaveButtonSavesWithoutAQuestion) {
+    setSaveAlways(1);
+    window->saver_Click();
+    EXPECT_EQ(saves, 1);
+    EXPECT_TRUE(dialogs.taskDialogs.empty());
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
+}
+
+TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSet) {
+    window->close();
+    EXPECT_EQ(saves, 1);
+    EXPECT_TRUE(dialogs.taskDialogs.empty());
+    EXPECT_EQ(unloads, 1);
+    EXPECT_EQ(starts, 0);
+}
+
+TEST_F(Shell, StartMenuLinkAsksFirstAndGoesBackToStartWhateverTheAnswer) {
+    setSaveAlways(1);
+    dialogs.answerNext(DialogAnswer::No);
+    window->Label21_Click();
+    ASSERT_EQ(dialogs.taskDialogs.size(), 1u);
+    EXPECT_EQ(dialogs.taskDialogs[0].instruction, "Save project");
+    EXPECT_EQ(dialogs.taskDialogs[0].content, "Do you want to save the current project changes?");
+    EXPECT_EQ(dialogs.taskDialogs[0].title, "Orvanta");
+    EXPECT_EQ(dialogs.taskDialogs[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(saves, 0);
+    EXPECT_EQ(starts, 1);
+    EXPECT_EQ(unloads, 0);
+    EXPECT_EQ(text("Label21"), "Start menu");
+}
+
+TEST_F(Shell, OlderSystemsAskWithAMessageBoxAndYesSaves) {
+    window.reset();
+    sandbox.config().versionWords = VersionWords{5, 1};
+    cCrossComm::instance().setHost(&sandbox.restartHost());
+    setSaveAlways(1);
+    window = std::make_unique<mainfrm>(context());
+    dialogs.answerNext(DialogAnswer::Yes);
+    window->close();
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
+    EXPECT_EQ(dialogs.messageBoxes[0].text, "Do you want to save the current project changes?");
+    EXPECT_EQ(dialogs.messageBoxes[0].icon, MessageIcon::Question);
+    EXPECT_EQ(dialogs.messageBoxes[0].title, "Orvanta");
+    EXPECT_EQ(saves, 1);
+    EXPECT_EQ(unloads, 1);
+}
+
+TEST_F(Shell, SimulationNeedsASave) {
+    setSaveAlways(1);
+    dialogs.answerNext(DialogAnswer::No);
+    window->pre_Click();
+    EXPECT_EQ(saves, 0);
+    EXPECT_EQ(previews, 0);
+    ASSERT_EQ(dialogs.taskDialogs.size(), 1u);
+    EXPECT_EQ(dialogs.taskDialogs[0].content,
+              "Do you want to save the current project changes? Project must be saved before simulation.");
+    dialogs.answerNext(DialogAnswer::Yes);
+    window->pre_Click();
+    EXPECT_EQ(saves, 1);
+    EXPECT_EQ(previews, 1);
+    setSaveAlways(0);
+    window->pre_Click();
+    EXPECT_EQ(saves, 2);
+    EXPECT_EQ(previews, 2);
+    EXPECT_EQ(dialogs.taskDialogs.size(), 2u);
+}
+
+TEST_F(Shell, StartsWithItsDesignDefaults) {
+    EXPECT_EQ(text("Combo4"), "Windows XP");
+    EXPECT_EQ(text("Combo2"), "HKLM");
+    EXPECT_EQ(text("Combo3"), "ROAMING\\");
+    EXPECT_EQ(text("Combo5"), "<>");
+    EXPECT_EQ(get<QComboBox>("Combo5").count(), 6);
+    EXPECT_EQ(text("Text21"), ".exe");
+    EXPECT_EQ(text("Text16"), "1.0");
+    EXPECT_EQ(text("Text33"), "No editions");
+    EXPECT_EQ(text("Text10"), "<>");
+    EXPECT_EQ(text("tips"), "Tips go here!");
+    EXPECT_EQ(text("Label21"), "Start Menu");
+    EXPECT_EQ(text("Text17"), "Click uninstall to proceed. This process is unreversible!");
+    EXPECT_EQ(vars::compressionLevel, "5");
+}
+
+}  // namespace
+}  // namespace orvanta::testing
