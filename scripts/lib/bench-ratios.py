@@ -3,13 +3,14 @@
 A reference is named after ours plus "_" and the library, and takes the same argument:
 crc32_CalculateBytes_zlib/65536 is the reference of crc32_CalculateBytes/65536. The ratio is
 named after ours and the argument (crc32_CalculateBytes_64KiB); a reference other than zlib adds
-its name. An argument of 0 adds nothing to the name. The figures in GB/s come first, the ratio
-lines last.
+its name. An argument of 0 adds nothing to the name. Benchmarks that count items instead of bytes
+(project_save/100000 against project_save_listing/100000, items being files) compare items per
+second and keep the count as it stands in the name. The figures come first, the ratio lines last.
 """
 import json
 import sys
 
-REFERENCES = ("zlib", "libdeflate", "libspng", "libpng", "qt")
+REFERENCES = ("zlib", "libdeflate", "libspng", "libpng", "qt", "listing")
 
 
 def size_name(argument):
@@ -31,29 +32,38 @@ def load(paths):
             continue  # a program whose benchmarks the filter left out writes nothing useful
         for run in runs:
             if "bytes_per_second" in run:
-                speeds[run["name"].removesuffix("/real_time")] = run["bytes_per_second"]
+                speeds[run["name"].removesuffix("/real_time")] = (run["bytes_per_second"], "bytes")
+            elif "items_per_second" in run:
+                speeds[run["name"].removesuffix("/real_time")] = (run["items_per_second"], "items")
     return speeds
 
 
 def comparisons(speeds):
-    for name, theirs in speeds.items():
+    for name, (theirs, unit) in speeds.items():
         function, _, argument = name.partition("/")
         base, _, library = function.rpartition("_")
         if library not in REFERENCES or not argument:
             continue
-        ours = speeds.get(f"{base}/{argument}")
-        if ours:
+        ours, our_unit = speeds.get(f"{base}/{argument}", (None, None))
+        if ours and our_unit == unit:
             suffix = "" if library == "zlib" else f"_{library}"
             # An argument of 0 only pairs the two; the name says the size already.
-            size = "" if argument == "0" else f"_{size_name(argument)}"
-            yield f"{base}{size}{suffix}", library, ours, theirs
+            amount = size_name(argument) if unit == "bytes" else argument
+            name = base if argument == "0" else f"{base}_{amount}"
+            yield f"{name}{suffix}", library, unit, ours, theirs
+
+
+def describe(speed, unit):
+    if unit == "bytes":
+        return f"{speed / 1e9:.2f} GB/s"
+    return f"{speed / 1e6:.3f} M/s"
 
 
 def main(paths):
     results = sorted(comparisons(load(paths)))
-    for label, library, ours, theirs in results:
-        print(f"# {label}: ours {ours / 1e9:.2f} GB/s, {library} {theirs / 1e9:.2f} GB/s")
-    for label, _, ours, theirs in results:
+    for label, library, unit, ours, theirs in results:
+        print(f"# {label}: ours {describe(ours, unit)}, {library} {describe(theirs, unit)}")
+    for label, _, _, ours, theirs in results:
         print(f"ratio {label} {ours / theirs:.2f}")
 
 

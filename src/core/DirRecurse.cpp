@@ -17,9 +17,28 @@ bool isDotsOnly(const std::string& name) {
 
 std::vector<std::string> subfolders(Host& host, const std::string& folder) {
     std::vector<std::string> names;
-    for (const auto& entry : host.listDirectory(normalizePath(folder) + "*", true))
+    for (const auto& entry : host.listDirectoryLengths(normalizePath(folder) + "*", true))
         if (entry.isFolder() && !isDotsOnly(entry.name)) names.push_back(entry.name);
     return names;
+}
+
+void walkInto(Host& host, FolderTree& tree, const std::string& folder) {
+    host.processPendingMessages();
+    tree.folders.push_back(folder);
+    const std::string base = normalizePath(folder);
+    std::vector<std::string> names;
+    for (const auto& entry : host.listDirectoryLengths(base + "*", true)) {
+        if (!entry.isFolder()) {
+            tree.files.push_back(base + entry.name);
+            tree.size += static_cast<double>(entry.length);
+        } else if (!isDotsOnly(entry.name)) {
+            names.push_back(entry.name);
+        }
+    }
+    for (const auto& name : names) {
+        if (vars::abortWalks) return;
+        walkInto(host, tree, base + name);
+    }
 }
 
 std::vector<std::string> splitPatterns(const std::string& patterns) {
@@ -54,7 +73,7 @@ void findFiles(Host& host, std::vector<std::string>& collection, const std::stri
     const std::string base = normalizePath(folder);
     for (const auto& pattern : splitPatterns(patterns)) {
         if (vars::abortWalks) return;
-        for (const auto& entry : host.listDirectory(base + pattern, false))
+        for (const auto& entry : host.listDirectoryLengths(base + pattern, false))
             if (!entry.isFolder()) collection.push_back(base + entry.name);
     }
 }
@@ -80,7 +99,7 @@ double folderSize(Host& host, const std::string& folder, bool withSubfolders) {
     host.processPendingMessages();
     double total = 0;
     std::vector<std::string> folders;
-    for (const auto& entry : host.listDirectory(normalizePath(folder) + "*", true)) {
+    for (const auto& entry : host.listDirectoryLengths(normalizePath(folder) + "*", true)) {
         if (entry.isFolder()) {
             if (!isDotsOnly(entry.name)) folders.push_back(entry.name);
         } else {
@@ -93,6 +112,12 @@ double folderSize(Host& host, const std::string& folder, bool withSubfolders) {
         total += folderSize(host, normalizePath(folder) + name, true);
     }
     return total;
+}
+
+FolderTree walkFolderTree(Host& host, const std::string& folder) {
+    FolderTree tree;
+    walkInto(host, tree, folder);
+    return tree;
 }
 
 double diskFreeReport(Host& host, const std::string& driveLetter) {

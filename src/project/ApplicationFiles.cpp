@@ -21,25 +21,27 @@ std::string removeEveryOccurrence(std::string text, std::string_view part) {
     return kept;
 }
 
+ApplicationFileLists refreshedLists(Host& host, const std::string& base) {
+    const std::string prefix = base + "\\";
+    const FolderTree tree = walkFolderTree(host, prefix);
+    ApplicationFileLists lists;
+    lists.size = tree.size;
+    lists.files.reserve(tree.files.size());
+    for (const auto& path : tree.files) lists.files.push_back(removeEveryOccurrence(path, prefix));
+    for (const auto& path : tree.folders) {
+        // The walk gives its starting folder back first, in the spelling it was given.
+        if (path == base || path == prefix) continue;
+        lists.folders.push_back(removeEveryOccurrence(path, prefix));
+    }
+    return lists;
+}
+
 std::vector<std::string> refreshedFiles(Host& host, const std::string& base) {
-    std::vector<std::string> found;
-    findFilesDeep(host, found, base, "*.*");
-    std::vector<std::string> entries;
-    entries.reserve(found.size());
-    for (const auto& path : found) entries.push_back(removeEveryOccurrence(path, base + "\\"));
-    return entries;
+    return refreshedLists(host, base).files;
 }
 
 std::vector<std::string> refreshedFolders(Host& host, const std::string& base) {
-    std::vector<std::string> found;
-    listFoldersDeep(host, found, base + "\\");
-    std::vector<std::string> entries;
-    for (const auto& path : found) {
-        // The walk gives its starting folder back first, in the spelling it was given.
-        if (path == base || path == base + "\\") continue;
-        entries.push_back(removeEveryOccurrence(path, base + "\\"));
-    }
-    return entries;
+    return refreshedLists(host, base).folders;
 }
 
 }  // namespace orvanta

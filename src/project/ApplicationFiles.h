@@ -16,9 +16,15 @@ std::string applicationFilesBase(std::string_view workspaceFolder, std::string_v
 // Every occurrence of `part` taken out of `text`, not only a leading one.
 std::string removeEveryOccurrence(std::string text, std::string_view part);
 
-// The files below `base`, in the order of the walk, each with every "base\" removed.
+struct ApplicationFileLists {
+    std::vector<std::string> files;    // in the order of the walk, each with every "base\" removed
+    std::vector<std::string> folders;  // the same way; `base` itself is not one of them
+    double size = 0;                   // of all the files
+};
+
+// Both lists and the size from one walk of `base`.
+ApplicationFileLists refreshedLists(Host& host, const std::string& base);
 std::vector<std::string> refreshedFiles(Host& host, const std::string& base);
-// The folders below `base`, the same way; `base` itself is not one of them.
 std::vector<std::string> refreshedFolders(Host& host, const std::string& base);
 
 }  // namespace orvanta

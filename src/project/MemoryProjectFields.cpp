@@ -16,7 +16,11 @@ using namespace ctrl;
 
 std::string keyOf(ControlName control) {
     std::string key(control.name);
-    if (control.index >= 0) key += "(" + std::to_string(control.index) + ")";
+    if (control.index >= 0) {
+        key += '(';
+        key += std::to_string(control.index);
+        key += ')';
+    }
     return key;
 }
 

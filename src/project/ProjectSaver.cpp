@@ -65,7 +65,8 @@ public:
           random_(context.random ? context.random : timerSeededRandom(context.host)),
           appName_(fields_.text(ctrl::appName)),
           workingSet_(fields_.text(workingFolder)),
-          root_(projectRoot(vars::workspaceFolder, appName_)) {}
+          root_(projectRoot(vars::workspaceFolder, appName_)),
+          filesBase_(applicationFilesBase(vars::workspaceFolder, appName_)) {}
 
     // Everything up to the free texts; a file that cannot be written throws RuntimeError.
     void writeFiles() {
@@ -100,10 +101,15 @@ private:
         if (folderExists(host_, folder) == kFalse) must(host_.createFolder(folder), folder);
     }
 
-    // The executables have no list in the editor, so there is no walk of their folder to fill one.
+    // One walk of the root's "\files" gives both lists and, for the root's working set, the size:
+    // nothing the saver writes lies below it. The executables have no list in the editor, so
+    // there is no walk of their folder to fill one.
     void prepare() {
         fields_.showStatus(StatusLabel::ControlTips, "Saving project...");
-        fields_.setText(appSize, sizeText(folderSize(host_, path(projectfolder::kFiles), true)));
+        lists_ = refreshedLists(host_, filesBase_);
+        const std::string ownFiles = path(projectfolder::kFiles);
+        fields_.setText(appSize,
+                        sizeText(ownFiles == filesBase_ ? lists_.size : folderSize(host_, ownFiles, true)));
         if (refusesCleanAll(fields_.text(installPath))) fields_.setValue(cleanAll, 0);
         scanFontsFolder(host_, fields_, workingSet_);
     }
@@ -127,9 +133,8 @@ private:
         if (!exists(path(kBackground)) && exists(defaultBackground))
             must(host_.copyFile(defaultBackground, path(kBackground)), path(kBackground));
         write(kFonts, writeFontList, textsOf(fields_.listItems(fonts)));
-        const std::string base = applicationFilesBase(vars::workspaceFolder, appName_);
-        write(kFiles, writeContentList, refreshed(files, refreshedFiles(host_, base)));
-        write(kFolders, writeContentList, refreshed(folders, refreshedFolders(host_, base)));
+        write(kFiles, writeContentList, refreshed(files, lists_.files));
+        write(kFolders, writeContentList, refreshed(folders, lists_.folders));
     }
 
     const std::vector<std::string>& refreshed(ControlName list, const std::vector<std::string>& entries) {
@@ -211,6 +216,8 @@ private:
     const std::string appName_;
     const std::string workingSet_;
     const std::string root_;
+    const std::string filesBase_;
+    ApplicationFileLists lists_;
 };
 
 DialogAnswer askRetry(Dialogs& dialogs, const RuntimeError& error) {

@@ -64,6 +64,19 @@ TEST_F(WalkTest, FolderSizeWithAndWithoutSubfolders) {
     EXPECT_EQ(folderSize(box.host(), box.windowsPath("missing"), true), 0.0);
 }
 
+TEST_F(WalkTest, OneTreeWalkGivesWhatTheThreeWalksGiveInTheirOrder) {
+    box.writeFile("f\\sub\\README", "no extension");
+    for (const std::string& start : {root(), root() + "\\"}) {
+        std::vector<std::string> files, folders;
+        findFilesDeep(box.host(), files, start, "*.*");
+        listFoldersDeep(box.host(), folders, start);
+        const FolderTree tree = walkFolderTree(box.host(), start);
+        EXPECT_EQ(tree.files, files);
+        EXPECT_EQ(tree.folders, folders);
+        EXPECT_EQ(tree.size, folderSize(box.host(), start, true));
+    }
+}
+
 TEST_F(WalkTest, TheAbortFlagStopsAWalk) {
     vars::abortWalks = true;
     std::vector<std::string> files;

@@ -61,6 +61,21 @@ TEST_F(HostFiles, FoldersAndTheirDotEntriesComeOnlyWhenAsked) {
             << entry.name;
 }
 
+TEST_F(HostFiles, TheListingForWalksGivesTheSameEntriesWithTheFolderBitAlone) {
+    ASSERT_TRUE(host.setFileAttributes(at("a.txt"), kAttributeHidden | kAttributeReadOnly));
+    for (const char* pattern : {"*", "*.txt", "SUB"}) {
+        const auto full = host.listDirectory(at(pattern), true);
+        const auto light = host.listDirectoryLengths(at(pattern), true);
+        ASSERT_EQ(light.size(), full.size()) << pattern;
+        for (std::size_t i = 0; i < full.size(); ++i) {
+            EXPECT_EQ(light[i].name, full[i].name) << "in the same order";
+            EXPECT_EQ(light[i].length, full[i].length);
+            EXPECT_EQ(light[i].attributes, full[i].attributes & kAttributeDirectory) << full[i].name;
+        }
+    }
+    host.setFileAttributes(at("a.txt"), kAttributeNormal);
+}
+
 TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryUnderItsOwnSpelling) {
     const auto file = host.listDirectory(at("b.txt"), false);
     ASSERT_EQ(file.size(), 1u);

@@ -36,20 +36,38 @@ std::uint32_t attributesOf(const std::string& hostPath, const struct stat& info)
     return attributes | readDosAttributes(hostPath);
 }
 
-DirectoryEntry entryOf(std::string name, const std::string& hostPath, const struct stat& info) {
-    return {std::move(name), attributesOf(hostPath, info),
-            S_ISDIR(info.st_mode) ? 0 : static_cast<std::uint64_t>(info.st_size)};
+DirectoryEntry entryOf(std::string name, const std::string& hostPath, const struct stat& info,
+                       bool dosAttributes) {
+    const bool folder = S_ISDIR(info.st_mode);
+    const std::uint32_t attributes =
+        dosAttributes ? attributesOf(hostPath, info) : (folder ? kAttributeDirectory : 0);
+    return {std::move(name), attributes, folder ? 0 : static_cast<std::uint64_t>(info.st_size)};
 }
 
 bool isDots(const std::string& name) {
     return name == "." || name == "..";
 }
 
+unsigned char lowerByte(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte - 'A' + 'a') : byte;
+}
+
+// Compared in place: a folder of many entries makes this the sort's inner loop.
+int compareIgnoringCase(const std::string& a, const std::string& b) {
+    const std::size_t common = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < common; ++i) {
+        const unsigned char x = lowerByte(a[i]), y = lowerByte(b[i]);
+        if (x != y) return x < y ? -1 : 1;
+    }
+    return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
+}
+
 // NTFS lists "." and ".." first and the rest in name order, ignoring case.
 bool listingOrder(const DirectoryEntry& a, const DirectoryEntry& b) {
     if (isDots(a.name) != isDots(b.name)) return isDots(a.name);
-    const std::string lowerA = toLowerAscii(a.name), lowerB = toLowerAscii(b.name);
-    return lowerA != lowerB ? lowerA < lowerB : a.name < b.name;
+    const int order = compareIgnoringCase(a.name, b.name);
+    return order != 0 ? order < 0 : a.name < b.name;
 }
 
 // "C:\", "Z:\" and "\" have no "." and ".." entries on Windows.
@@ -102,24 +120,34 @@ void copyMetadata(const std::string& from, const struct stat& source, const std:
 }  // namespace
 
 std::vector<DirectoryEntry> PosixHost::listDirectory(const std::string& pattern, bool includeFolders) {
+    return listEntries(pattern, includeFolders, true);
+}
+
+std::vector<DirectoryEntry> PosixHost::listDirectoryLengths(const std::string& pattern, bool includeFolders) {
+    return listEntries(pattern, includeFolders, false);
+}
+
+std::vector<DirectoryEntry> PosixHost::listEntries(const std::string& pattern, bool includeFolders,
+                                                   bool dosAttributes) {
     const std::string windowsPattern = withBackslashes(pattern);
     const std::string last = lastComponent(windowsPattern);
     if (last.empty()) return {};
-    if (!hasWildcard(last)) return listNamed(windowsPattern, includeFolders);
+    if (!hasWildcard(last)) return listNamed(windowsPattern, includeFolders, dosAttributes);
     const std::string folder = windowsPattern.substr(0, windowsPattern.size() - last.size());
-    return listMatching(folder, last, includeFolders);
+    return listMatching(folder, last, includeFolders, dosAttributes);
 }
 
 // Without wildcards the pattern names one entry, given back under its name on disk.
-std::vector<DirectoryEntry> PosixHost::listNamed(const std::string& path, bool includeFolders) {
+std::vector<DirectoryEntry> PosixHost::listNamed(const std::string& path, bool includeFolders,
+                                                 bool dosAttributes) {
     const std::string hostPath = toHostPath(path);
     const auto info = statOf(hostPath);
     if (!info || (S_ISDIR(info->st_mode) && !includeFolders)) return {};
-    return {entryOf(lastComponent(toWindowsPath(hostPath)), hostPath, *info)};
+    return {entryOf(lastComponent(toWindowsPath(hostPath)), hostPath, *info, dosAttributes)};
 }
 
 std::vector<DirectoryEntry> PosixHost::listMatching(const std::string& folder, const std::string& wildcard,
-                                                    bool includeFolders) {
+                                                    bool includeFolders, bool dosAttributes) {
     std::vector<DirectoryEntry> entries;
     const std::string hostFolder = folder.empty() ? "." : toHostPath(folder);
     DIR* directory = hostFolder.empty() ? nullptr : ::opendir(hostFolder.c_str());
@@ -128,10 +156,12 @@ std::vector<DirectoryEntry> PosixHost::listMatching(const std::string& folder, c
     while (const dirent* item = ::readdir(directory)) {
         const std::string name = utf8ToWindows1252(item->d_name);
         if ((root && isDots(name)) || !matchesWildcard(name, wildcard)) continue;
-        const std::string hostPath = hostFolder + "/" + item->d_name;
-        const auto info = statOf(hostPath);
-        if (!info || (S_ISDIR(info->st_mode) && !includeFolders)) continue;
-        entries.push_back(entryOf(name, hostPath, *info));
+        // Relative to the open folder, which spares the kernel a walk of the whole path.
+        struct stat info {};
+        if (::fstatat(::dirfd(directory), item->d_name, &info, 0) != 0) continue;
+        if (S_ISDIR(info.st_mode) && !includeFolders) continue;
+        const std::string hostPath = dosAttributes ? hostFolder + "/" + item->d_name : std::string();
+        entries.push_back(entryOf(name, hostPath, info, dosAttributes));
     }
     ::closedir(directory);
     std::sort(entries.begin(), entries.end(), listingOrder);

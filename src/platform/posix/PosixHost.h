@@ -21,6 +21,8 @@ public:
     explicit PosixHost(const HostConfig& config);
 
     std::vector<DirectoryEntry> listDirectory(const std::string& pattern, bool includeFolders) override;
+    std::vector<DirectoryEntry> listDirectoryLengths(const std::string& pattern,
+                                                     bool includeFolders) override;
     std::optional<std::uint64_t> fileLength(const std::string& path) override;
     std::optional<std::uint32_t> fileAttributes(const std::string& path) override;
     bool setFileAttributes(const std::string& path, std::uint32_t attributes) override;
@@ -60,9 +62,13 @@ public:
     std::uint64_t tickMilliseconds() override;
 
 private:
-    std::vector<DirectoryEntry> listNamed(const std::string& path, bool includeFolders);
+    // With `dosAttributes` off, the attributes hold the folder bit only and no extended
+    // attribute is read.
+    std::vector<DirectoryEntry> listEntries(const std::string& pattern, bool includeFolders,
+                                            bool dosAttributes);
+    std::vector<DirectoryEntry> listNamed(const std::string& path, bool includeFolders, bool dosAttributes);
     std::vector<DirectoryEntry> listMatching(const std::string& folder, const std::string& wildcard,
-                                             bool includeFolders);
+                                             bool includeFolders, bool dosAttributes);
 
     long resolveKey(RegistryKey key, const std::string& subKey, std::string& path) const;
     bool keyExists(const std::string& path) const;
