@@ -1,7 +1,6 @@
 #include "project/EditionSwitch.h"
 
 #include "EditorFixture.h"
-#include "project/ProjectSaver.h"
 #include "project/WorkingSetFiles.h"
 
 namespace orvanta {
@@ -13,8 +12,7 @@ class EditionSwitchTest : public EditorFixture {
 protected:
     void SetUp() override {
         EditorFixture::SetUp();
-        auto saving = context();
-        project_saver(saving);
+        save();
     }
     std::optional<LoadOutcome> change(std::string edition, std::string& version) {
         auto switching = context();

@@ -13,6 +13,8 @@
 #include "project/LineFile.h"
 #include "project/MemoryProjectFields.h"
 #include "project/PackageTables.h"
+#include "project/ProjectLoader.h"
+#include "project/ProjectSaver.h"
 #include "project/SettingsSets.h"
 #include "support/Sandbox.h"
 #include "support/ScriptedDialogs.h"
@@ -44,6 +46,16 @@ protected:
         return {box.host(), dialogs, editor, [] { return 0.0; }};
     }
     EditorContext context() { return context(*fields); }
+    SaveOutcome save(ProjectFields& editor) {
+        auto saving = context(editor);
+        return project_saver(saving);
+    }
+    LoadOutcome load(ProjectFields& editor) {
+        auto loading = context(editor);
+        return loadProject(loading, root);
+    }
+    SaveOutcome save() { return save(*fields); }
+    LoadOutcome load() { return load(*fields); }
 
     // Sandbox paths below the project root.
     static std::string rel(const std::string& name) {

@@ -1,9 +1,6 @@
-#include "project/ProjectLoader.h"
-
 #include <random>
 
 #include "EditorFixture.h"
-#include "project/UninstallOptions.h"
 
 namespace orvanta {
 namespace {
@@ -23,10 +20,6 @@ protected:
         settings[43] = "s";
         for (const auto& [line, text] : changed) settings[static_cast<std::size_t>(line - 1)] = text;
         box.writeFile(rel("mainsettings.cfg"), linesText(settings));
-    }
-    LoadOutcome load() {
-        auto loading = context();
-        return loadProject(loading, root);
     }
     static std::string numbered(std::size_t count, const std::string& stem) {
         std::string text;
@@ -62,6 +55,7 @@ TEST_F(ProjectLoaderTest, ReportsEachStepInOrderAndShowsTheEditor) {
     EXPECT_EQ(fields->text(Text10), "<>");
     EXPECT_FALSE(fields->enabled(Command8) || fields->enabled(Command41));
     EXPECT_EQ(fields->control(Command35).caption, "Manage packages \r\n0 package(s)");
+    EXPECT_FALSE(fields->enabled(Option1) || fields->enabled(Option2)) << "no locations to delete";
 }
 
 TEST_F(ProjectLoaderTest, AMainSettingsFileThatCannotBeOpenedStopsTheLoad) {
@@ -83,25 +77,12 @@ TEST_F(ProjectLoaderTest, AMainSettingsFileThatCannotBeOpenedStopsTheLoad) {
 
 TEST_F(ProjectLoaderTest, LinesReadOverOrTakenApart) {
     fields->setValue(Option2, 1);
-    fields->setText(fullLicenseFile, "kept only until the load");
-    writeSettings({{3, "x"},
-                   {4, "1.7"},
-                   {5, "license.rtf"},
-                   {13, " "},
-                   {23, "Other caption"},
-                   {24, "WHATEVER"},
-                   {26, "readme.txt"},
-                   {32, "http://support"},
-                   {40, "Gold"},
-                   {44, "i"}});
     fields->setValue(startMenuShortcut, 1);
+    writeSettings(
+        {{3, "x"}, {13, " "}, {24, "WHATEVER"}, {26, "readme.txt"}, {32, "http://support"}, {44, "i"}});
     load();
     EXPECT_EQ(fields->value(startMenuShortcut), 1) << "a flag that is no number keeps the box";
-    EXPECT_EQ(fields->value(desktopShortcut), 1) << "the integer part";
     EXPECT_EQ(fields->value(Check23), 0) << "a blank executable name";
-    EXPECT_EQ(fields->text(licenseButtonCaption), "Read full license");
-    EXPECT_EQ(fields->text(editionName), "No editions");
-    EXPECT_EQ(fields->text(fullLicenseFile), "kept only until the load") << "line 5 is read over";
     EXPECT_EQ(fields->value(Option2), 1) << "an unknown word selects nothing";
     EXPECT_TRUE(fields->enabled(Command38));
     EXPECT_EQ(fields->text(supportLink), "http://support");
@@ -123,7 +104,6 @@ TEST_F(ProjectLoaderTest, LinesReadOverOrTakenApart) {
 TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
     writeSettings();
     fields->addListItems(registryLocations, {"old registry"});
-    fields->addListItems(appDataLocations, {"old data"});
     fields->addListItems(fonts, {"old.ttf"});
     fields->addListItems(files, {"old.exe"});
     fields->addListItem(dependencies, "old.ocx", true);
@@ -133,7 +113,8 @@ TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
     box.writeFile(rel("dependencies.cfg"), "x.ocx\r\n 1 \r\ny.dll\r\n0\r\n");
     load();
     EXPECT_EQ(fields->listItems(registryLocations), (Items{{"old registry"}}));
-    EXPECT_EQ(fields->listItems(appDataLocations), (Items{{"old data"}})) << "no file";
+    EXPECT_FALSE(fields->enabled(Option1)) << "no application data locations to delete";
+    EXPECT_TRUE(fields->enabled(Option2));
     EXPECT_EQ(fields->listCount(fonts), 0u);
     EXPECT_EQ(fields->listItems(files), (Items{{"old.exe"}, {"a.exe"}}));
     EXPECT_EQ(fields->listItems(dependencies), (Items{{"x.ocx", true}, {"y.dll", false}}));
@@ -143,23 +124,6 @@ TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
     load();
     EXPECT_EQ(fields->listItems(fonts), (Items{{"kept.ttf"}}));
     EXPECT_EQ(fields->listCount(files), 3u) << "a second load adds again";
-}
-
-TEST(UninstallOptions, FollowTheLocationLists) {
-    struct Row {
-        bool registry, appData, option1, option2;
-    };
-    for (const auto row : {Row{true, false, false, true}, Row{true, true, true, true},
-                           Row{false, true, true, false}, Row{false, false, false, false}}) {
-        MemoryProjectFields fields;
-        if (row.registry) fields.addListItems(registryLocations, {"HKCU\\Software\\Demo"});
-        if (row.appData) fields.addListItems(appDataLocations, {"ROAMING\\Demo"});
-        fields.setEnabled(Option3, false);
-        re_uninoptions(fields);
-        EXPECT_EQ(fields.enabled(Option1), row.option1);
-        EXPECT_EQ(fields.enabled(Option2), row.option2);
-        EXPECT_TRUE(fields.enabled(Option3));
-    }
 }
 
 TEST_F(ProjectLoaderTest, PackagesLogoAndLicenceSwitchTheirControls) {

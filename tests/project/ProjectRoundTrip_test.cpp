@@ -2,8 +2,6 @@
 #include <utility>
 
 #include "EditorFixture.h"
-#include "project/ProjectLoader.h"
-#include "project/ProjectSaver.h"
 
 namespace orvanta {
 namespace {
@@ -70,8 +68,8 @@ TEST_F(ProjectRoundTrip, EveryFieldComesBackButTheThreeNoFileStores) {
     fields->setText(licenseButtonCaption, "Show terms");
     fields->setText(editionName, "Gold");
     fields->setText(fullLicenseFile, "license.rtf");
-    auto saving = context();
-    ASSERT_EQ(project_saver(saving), SaveOutcome::Saved);
+    ASSERT_EQ(save(), SaveOutcome::Saved);
+    const std::string intro = box.readFile(rel("intro.cfg")), end = box.readFile(rel("uninstallEnd.cfg"));
 
     const auto saved = lines("mainsettings.cfg");
     ASSERT_EQ(saved.size(), 49u);
@@ -87,8 +85,7 @@ TEST_F(ProjectRoundTrip, EveryFieldComesBackButTheThreeNoFileStores) {
     EXPECT_EQ(vars::finalPackageFile, "demo-2.5.exe");
 
     auto loaded = freshEditor();
-    auto loading = context(*loaded);
-    ASSERT_EQ(loadProject(loading, root), LoadOutcome::Loaded);
+    ASSERT_EQ(load(*loaded), LoadOutcome::Loaded);
     EXPECT_EQ(loaded->text(licenseButtonCaption), "Read full license");
     EXPECT_EQ(loaded->text(editionName), "No editions");
     EXPECT_EQ(loaded->text(fullLicenseFile), "");
@@ -101,6 +98,9 @@ TEST_F(ProjectRoundTrip, EveryFieldComesBackButTheThreeNoFileStores) {
         EXPECT_EQ(copy.placeholderLook, original.placeholderLook) << key;
     }
     EXPECT_EQ(loaded->listItems(files), (std::vector<ListItem>{{"demo.exe"}, {"sub\\data.bin"}}));
+    save(*loaded);
+    EXPECT_EQ(box.readFile(rel("intro.cfg")), intro) << "multi-line texts neither grow nor shrink";
+    EXPECT_EQ(box.readFile(rel("uninstallEnd.cfg")), end);
 }
 
 TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
@@ -111,8 +111,7 @@ TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
         fields->setValue(Option1, 1);
         fields->setValue(Option4, 1);
         fields->setValue(flag, 1);
-        auto saving = context();
-        project_saver(saving);
+        save();
         const auto saved = lines("mainsettings.cfg");
         ASSERT_EQ(saved.size(), 49u);
         for (std::size_t i = 0; i < saved.size(); ++i) {
@@ -121,8 +120,7 @@ TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
         }
 
         auto loaded = freshEditor();
-        auto loading = context(*loaded);
-        loadProject(loading, root);
+        load(*loaded);
         for (const auto& [other, unused] : kFlagLines)
             EXPECT_EQ(loaded->value(other), other == flag ? 1 : 0)
                 << flag.name << " loaded into " << other.name;
@@ -133,34 +131,15 @@ TEST_F(ProjectRoundTrip, PlaceholdersAreNeverStoredAndComeBackAsPlaceholders) {
     fields->setText(helpLink, "Help link");  // typed by hand, the look already normal
     fields->setPlaceholderLook(helpLink, false);
     fields->setValue(Check31, 1);
-    auto saving = context();
-    project_saver(saving);
+    save();
     const auto saved = lines("mainsettings.cfg");
     for (const int line : {6, 30, 32, 33, 34, 36}) EXPECT_EQ(saved[static_cast<std::size_t>(line - 1)], "");
 
     auto loaded = freshEditor();
-    auto loading = context(*loaded);
-    loadProject(loading, root);
+    load(*loaded);
     EXPECT_EQ(loaded->text(helpLink), "Help link");
     EXPECT_TRUE(loaded->control(helpLink).placeholderLook);
     EXPECT_EQ(loaded->value(Check31), 0);
-}
-
-TEST_F(ProjectRoundTrip, MultiLineTextsNeitherGrowNorShrinkOverSavesAndLoads) {
-    const std::string intro = "First\r\n\r\nends with an empty line\r\n";
-    fields->setText(introText, intro);
-    std::string firstFile;
-    for (int cycle = 0; cycle < 3; ++cycle) {
-        auto saving = context();
-        project_saver(saving);
-        const std::string file = box.readFile(rel("intro.cfg"));
-        if (cycle == 0) firstFile = file;
-        EXPECT_EQ(file, firstFile);
-        fields = freshEditor();
-        auto loading = context();
-        loadProject(loading, root);
-        EXPECT_EQ(fields->text(introText), intro);
-    }
 }
 
 }  // namespace
