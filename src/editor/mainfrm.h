@@ -150,6 +150,7 @@ private:
     void startDrag();
     bool filterFocus(QObject* watched, QEvent* event);
     bool filterLinks(QObject* watched, QEvent* event);
+    bool filterDisabledImage(QObject* watched, QEvent* event);
 
     // Field rules
     void Check23_Changed(bool on);

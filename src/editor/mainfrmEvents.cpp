@@ -32,6 +32,8 @@ void mainfrm::installTips() {
 
 bool mainfrm::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
+    if ((type == QEvent::Enter || type == QEvent::Leave) && filterDisabledImage(watched, event))
+        return QWidget::eventFilter(watched, event);
     if (type == QEvent::Enter || type == QEvent::MouseMove) {
         if (watched == ui_->tips) {
             showTip("");

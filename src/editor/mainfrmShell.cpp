@@ -1,4 +1,5 @@
 // The shell of the editor: pages, the image buttons of the header and their highlight.
+#include <QEvent>
 #include <QPushButton>
 #include <QTabBar>
 
@@ -12,6 +13,8 @@ namespace orvanta {
 
 namespace {
 
+constexpr const char* kTitleProperty = "orvantaTitle";
+constexpr const char* kTipProperty = "orvantaTip";
 constexpr const char* kLaterVersion = " This comes in a later version of Orvanta.";
 
 }  // namespace
@@ -79,6 +82,10 @@ void mainfrm::drawPictures() {
 void mainfrm::connectImageButton(aicAlphaImage& image, const char* title, const char* tip) {
     const std::string titleText = title;
     const std::string tipText = tip;
+    // A disabled picture sends no mouse events of its own; the window watches its pointer instead.
+    image.setProperty(kTitleProperty, QByteArray(title));
+    image.setProperty(kTipProperty, QByteArray(tip));
+    image.installEventFilter(this);
     connect(&image, &aicAlphaImage::MouseEnter, this, [this, &image, titleText, tipText] {
         showTitle(titleText);
         showTip(tipText);
@@ -88,6 +95,17 @@ void mainfrm::connectImageButton(aicAlphaImage& image, const char* title, const 
         showTitle("");
         highlight(image, false);
     });
+}
+
+bool mainfrm::filterDisabledImage(QObject* watched, QEvent* event) {
+    auto* image = qobject_cast<aicAlphaImage*>(watched);
+    if (image == nullptr || image->isEnabled() || !image->property(kTitleProperty).isValid()) return false;
+    if (event->type() == QEvent::Enter) {
+        showTitle(image->property(kTitleProperty).toByteArray().toStdString());
+        showTip(image->property(kTipProperty).toByteArray().toStdString());
+    }
+    if (event->type() == QEvent::Leave) showTitle("");
+    return true;
 }
 
 void mainfrm::highlight(aicAlphaImage& image, bool on) {

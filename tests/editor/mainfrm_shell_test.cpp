@@ -57,8 +57,12 @@ TEST_F(Shell, ImageButtonsShowATitleOnlyWhileThePointerIsOver) {
     EXPECT_EQ(text("tips"), "Saves every setting except packages and settings set");
     // Packaging is not offered yet, and says so.
     EXPECT_FALSE(enabled("packageit"));
-    emit get<aicAlphaImage>("packageit").MouseEnter();
+    pointerEnters(get<QWidget>("packageit"));
+    EXPECT_EQ(text("controlTips"), "Package it!");
     EXPECT_NE(text("tips").find("later version"), std::string::npos);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&get<QWidget>("packageit"), &leave);
+    EXPECT_EQ(text("controlTips"), "");
 }
 
 TEST_F(Shell, SaveButtonSavesWithoutAQuestion) {

@@ -61,6 +61,14 @@ int main(int argc, char** argv) {
     mainfrm window(mainfrmContext{*host, dialogs});
     fillSample(window);
     window.show();
+    // Each page must fit the window's size, or some control would be cut off.
+    for (int page = 0; page < 3; ++page) {
+        window.findChild<QTabBar*>(QStringLiteral("TabStrip1"))->setCurrentIndex(page);
+        const QSize needed = window.minimumSizeHint();
+        if (needed.width() > window.width() || needed.height() > window.height())
+            qWarning("page %d needs %dx%d, the window is %dx%d", page + 1, needed.width(), needed.height(),
+                     window.width(), window.height());
+    }
     if (argc < 2) return QApplication::exec();
 
     const QString folder = QString::fromLocal8Bit(argv[1]);
