@@ -4,12 +4,16 @@
 #include <QLabel>
 
 #include "controls/QtText.h"
+#include "core/vars.h"
+#include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
 #include "editor/optionsfrm.h"
 #include "editor/packages.h"
+#include "project/EditionSwitch.h"
 #include "project/EditorControls.h"
 #include "project/ProjectLoader.h"
+#include "project/ProjectPaths.h"
 #include "project/ProjectSaver.h"
 #include "project/window/start.h"
 
@@ -66,6 +70,7 @@ mainfrm& ApplicationWindows::ensureEditor() {
     };
     context.showPackages = [this] { showPackages(); };
     context.showOptions = [this] { showOptions(); };
+    context.showEditions = [this] { showEditions(); };
     context.showStart = [this] { showStart(); };
     context.unloadStart = [this] { unloadStart(); };
     editor_ = new mainfrm(context);
@@ -140,6 +145,24 @@ void ApplicationWindows::showPackages() {
         [this](const std::string& caption) { fields_->setCaption(ctrl::Command35, caption); },
         [&editor](const std::string& tip) { editor.showTip(tip); }};
     packages window(host_, dialogs_, std::move(context), packageTables, &editor);
+    window.exec();
+}
+
+void ApplicationWindows::showEditions() {
+    mainfrm& editor = ensureEditor();
+    EditionsContext context{
+        [this] { return projectRoot(vars::workspaceFolder, fields_->text(ctrl::appName)); },
+        [this] { return fields_->text(ctrl::workingFolder); },
+        [this] {
+            return WorkingSetSource{projectRoot(vars::workspaceFolder, fields_->text(ctrl::appName)),
+                                    fields_->text(ctrl::appName), fields_->text(ctrl::fullLicenseFile),
+                                    fields_->text(ctrl::resumedLicenseText), fields_->text(ctrl::anyFile)};
+        },
+        [this](std::string edition, std::string version) {
+            EditorContext switching = editorContext();
+            changes_edition(switching, edition, version);
+        }};
+    editionsfrm window(host_, dialogs_, std::move(context), &editor);
     window.exec();
 }
 

@@ -46,6 +46,7 @@ private:
     void unloadEditor();
     void showPackages();
     void showOptions();
+    void showEditions();
     void showStatusOnStart(const std::string& text);
 
     Host& host_;

@@ -30,15 +30,15 @@ bool isDeviceName(const std::string& name) {
     return false;
 }
 
+}  // namespace
+
 bool isUsableFolderName(const std::string& name) {
-    if (name == "." || name == ".." || name.back() == '.' || name.back() == ' ') return false;
+    if (name.empty() || name == "." || name == ".." || name.back() == '.' || name.back() == ' ') return false;
     const bool forbidden = std::any_of(name.begin(), name.end(), [](char c) {
         return static_cast<unsigned char>(c) < 32 || kForbiddenCharacters.find(c) != std::string_view::npos;
     });
     return !forbidden && !isDeviceName(name);
 }
-
-}  // namespace
 
 std::vector<std::string> listProjects(Host& host, const std::string& workspaceFolder) {
     std::vector<std::string> names;

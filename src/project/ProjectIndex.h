@@ -13,6 +13,10 @@ namespace orvanta {
 // Every entry of "\myinstallers\" but "." and "..", folders and files, in the file system's order.
 std::vector<std::string> listProjects(Host& host, const std::string& workspaceFolder);
 
+// Whether a folder may have this name: none of \ / : * ? " < > | or control characters, no dot or
+// blank at the end, no device name.
+bool isUsableFolderName(const std::string& name);
+
 enum class ProjectNameCheck {
     Empty,       // empty or the placeholder itself
     Acceptable,  // no project of that name yet

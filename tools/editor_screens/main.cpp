@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "controls/QtDialogs.h"
+#include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
 #include "image/widget/cCrossComm.h"
 #include "platform/Host.h"
@@ -44,6 +45,24 @@ void fillSample(orvanta::mainfrm& window) {
     control<QPlainTextEdit>(window, "Text11")
         ->setPlainText(QStringLiteral("Welcome to the setup of Demo App."));
     window.re_uninoptions();
+}
+
+// The editions window over a project with one edition and one version of another.
+void renderEditions(orvanta::Host& host, orvanta::Dialogs& dialogs, const QString& dataFolder,
+                    const QString& file) {
+    using namespace orvanta;
+    const std::string root = host.toWindowsPath((dataFolder + QStringLiteral("/Demo App")).toStdString());
+    host.createFolder(root);
+    host.writeFileAtomic(root + "\\mainsettings.cfg", "Demo App\r\n");
+    const WorkingSetSource source{root, "Demo App", "", "", ""};
+    createWorkingSet(host, source, "Pro", "");
+    createWorkingSet(host, source, "Home", "2.0");
+    EditionsContext context{[root] { return root; }, [root] { return root + "\\editions\\Pro"; },
+                            [source] { return source; }, [](std::string, std::string) {}};
+    editionsfrm window(host, dialogs, std::move(context));
+    window.show();
+    QApplication::processEvents();
+    if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
 }
 
 }  // namespace
@@ -81,5 +100,6 @@ int main(int argc, char** argv) {
             folder + QStringLiteral("/mainfrm_") + QString::fromLatin1(pages[page]) + QStringLiteral(".png");
         if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
     }
+    renderEditions(*host, dialogs, data.path(), folder + QStringLiteral("/editionsfrm.png"));
     return 0;
 }
