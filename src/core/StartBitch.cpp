@@ -30,7 +30,7 @@ void ensureSettingsKeys(RegistryAPI& registry) {
     // An existing root key is left alone, even if its "Settings" key was deleted by hand.
     if (registry.registryKeyExists(vars::settingsRootKey)) return;
     registry.createRegistryKey(vars::settingsRootKey);
-    registry.createRegistryKey(vars::settingsRootKey + "\\Settings");
+    registry.createRegistryKey(vars::settingsKey());
 }
 
 void warnNoArchiver(Host& host, Dialogs& dialogs) {

@@ -19,7 +19,7 @@ namespace {
 constexpr const char* kStartMenu = "Start menu";
 
 bool asksBeforeSaving(Host& host) {
-    return RegistryAPI(host).readSettingNumber(vars::settingsRootKey + "\\Settings", "saveAlways", 0) == 1;
+    return RegistryAPI(host).readSettingNumber(vars::settingsKey(), "saveAlways", 0) == 1;
 }
 
 }  // namespace

@@ -10,10 +10,6 @@ namespace {
 
 constexpr const char* kSaveAlways = "saveAlways";
 
-std::string settingsKey() {
-    return vars::settingsRootKey + "\\Settings";
-}
-
 }  // namespace
 
 optionsfrm::optionsfrm(Host& host, QWidget* parent)
@@ -27,12 +23,12 @@ optionsfrm::optionsfrm(Host& host, QWidget* parent)
 optionsfrm::~optionsfrm() = default;
 
 void optionsfrm::Form_Load() {
-    ui_->Check3->setChecked(RegistryAPI(host_).readSettingNumber(settingsKey(), kSaveAlways, 0) == 1);
+    ui_->Check3->setChecked(RegistryAPI(host_).readSettingNumber(vars::settingsKey(), kSaveAlways, 0) == 1);
 }
 
 // Stored at once: the editor reads the value when it closes and before each simulation.
 void optionsfrm::Check3_Click() {
-    RegistryAPI(host_).writeSettingNumber(settingsKey(), kSaveAlways, ui_->Check3->isChecked() ? 1 : 0);
+    RegistryAPI(host_).writeSettingNumber(vars::settingsKey(), kSaveAlways, ui_->Check3->isChecked() ? 1 : 0);
 }
 
 void optionsfrm::Command1_Click() {
