@@ -87,6 +87,11 @@ TEST_F(LaterInTheDay, AnEditionKeepsItsOwnValuesAndTheRootKeepsTheirs) {
     EXPECT_EQ(fields().text(website), "http://pro.example");
     EXPECT_EQ(fields().value(noRepair), 0);
     EXPECT_EQ(fields().text(appVersion), "2.5") << "what the edition did not change is the root's";
+
+    // The edition's copy of the marker opens the edition from the shell.
+    EXPECT_EQ(startProgram(box.windowsPath(rel("editions\\Pro\\My App.ovproj"))), MainOutcome::ProjectLoaded);
+    EXPECT_EQ(fields().text(workingFolder), root() + "\\editions\\Pro");
+    EXPECT_EQ(fields().text(website), "http://pro.example");
 }
 
 TEST_F(LaterInTheDay, PackagesAddedAndRemovedInTheManagerAreWrittenAtOnce) {
