@@ -3,18 +3,18 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
 #include "UserDay.h"
 #include "controls/ctlListView.h"
+#include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
 #include "editor/packages.h"
-#include "project/EditionSwitch.h"
 #include "project/EditorControls.h"
 #include "project/PackageTables.h"
-#include "project/WorkingSetFiles.h"
 #include "project/window/start.h"
 
 namespace orvanta::testing {
@@ -30,10 +30,12 @@ protected:
         createProject();
         waitForTheCopy();
     }
-    std::optional<LoadOutcome> switchTo(std::string edition) {
-        EditorContext context{box.host(), dialogs, fields()};
-        std::string version = "No versions";
-        return changes_edition(context, edition, version);
+    // Through the editions window, as the user switches: the row of the working set, then "Open".
+    void switchTo(int row) {
+        inEditionsWindow([row](editionsfrm& window) {
+            window.List1->setCurrentRow(row);
+            window.Command3->click();
+        });
     }
     static void clickRow(packages& manager, int row) {
         QTreeWidget* view = manager.List1()->hwnd();
@@ -46,22 +48,23 @@ TEST_F(LaterInTheDay, AnEditionKeepsItsOwnValuesAndTheRootKeepsTheirs) {
     fillEditor();
     saveWithTheButton();
     const Snapshot rootSaved = snapshot();
-    box.makeFolder(rel("editions\\Pro"));
-    edver_file_copier(box.host(), "\\editions\\Pro",
-                      {root(), kProject, fields().text(fullLicenseFile), fields().text(resumedLicenseText),
-                       fields().text(anyFile)});
+    inEditionsWindow([](editionsfrm& window) {
+        window.Text1->setText(QStringLiteral("Pro"));
+        window.Command1->click();
+        EXPECT_EQ(window.List1->count(), 2);
+    });
     EXPECT_EQ(bytes("editions\\Pro\\mainsettings.cfg"), bytes("mainsettings.cfg"));
     EXPECT_EQ(bytes("editions\\Pro\\eula.rtf"), "{\\rtf1 eula}");
     EXPECT_EQ(bytes("editions\\Pro\\My App.ovproj"), bytes("My App.ovproj"));
 
-    ASSERT_EQ(switchTo("Pro"), LoadOutcome::Loaded);
+    switchTo(1);
     EXPECT_EQ(fields().text(workingFolder), root() + "\\editions\\Pro");
     EXPECT_EQ(fields().text(editionName), "Pro");
     EXPECT_EQ(fields().text(website), "http://myapp.example");
     typeInEditor("Text6", "http://pro.example");
     clickInEditor("Check13");  // no repair, off in this edition
 
-    ASSERT_EQ(switchTo("No editions"), LoadOutcome::Loaded);
+    switchTo(0);
     EXPECT_EQ(fields().text(workingFolder), root());
     const Snapshot back = snapshot();
     for (const auto& [field, seen] : rootSaved) {
@@ -83,7 +86,7 @@ TEST_F(LaterInTheDay, AnEditionKeepsItsOwnValuesAndTheRootKeepsTheirs) {
     EXPECT_EQ(editionLines[13], " 0 ");
     EXPECT_EQ(editionLines[39], "Pro");
 
-    ASSERT_EQ(switchTo("Pro"), LoadOutcome::Loaded);
+    switchTo(1);
     EXPECT_EQ(fields().text(website), "http://pro.example");
     EXPECT_EQ(fields().value(noRepair), 0);
     EXPECT_EQ(fields().text(appVersion), "2.5") << "what the edition did not change is the root's";
@@ -92,6 +95,17 @@ TEST_F(LaterInTheDay, AnEditionKeepsItsOwnValuesAndTheRootKeepsTheirs) {
     EXPECT_EQ(startProgram(box.windowsPath(rel("editions\\Pro\\My App.ovproj"))), MainOutcome::ProjectLoaded);
     EXPECT_EQ(fields().text(workingFolder), root() + "\\editions\\Pro");
     EXPECT_EQ(fields().text(website), "http://pro.example");
+
+    // Back at the root, the edition goes after the question.
+    switchTo(0);
+    dialogs.answerNext(DialogAnswer::Yes);
+    inEditionsWindow([](editionsfrm& window) {
+        window.List1->setCurrentRow(1);
+        window.Command2->click();
+        EXPECT_EQ(window.List1->count(), 1);
+    });
+    EXPECT_FALSE(box.exists(rel("editions")));
+    EXPECT_EQ(lines("mainsettings.cfg")[8], "http://myapp.example");
 }
 
 TEST_F(LaterInTheDay, PackagesAddedAndRemovedInTheManagerAreWrittenAtOnce) {

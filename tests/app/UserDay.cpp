@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include "core/vars.h"
+#include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
 #include "editor/packages.h"
@@ -226,6 +227,19 @@ void UserDay::inPackagesManager(const std::function<void(packages&)>& work) {
     });
     clickInEditor("Command35");
     EXPECT_TRUE(opened) << "the packages manager did not open";
+}
+
+void UserDay::inEditionsWindow(const std::function<void(editionsfrm&)>& work) {
+    bool opened = false;
+    QTimer::singleShot(0, &editor(), [&] {
+        auto* window = editor().findChild<editionsfrm*>();
+        if (window == nullptr) return;
+        opened = true;
+        work(*window);
+        window->Command4->click();
+    });
+    clickInEditor("Command49");
+    EXPECT_TRUE(opened) << "the editions window did not open";
 }
 
 std::string UserDay::root() {

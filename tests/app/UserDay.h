@@ -23,6 +23,7 @@ namespace orvanta {
 
 class mainfrm;
 class mainfrmFields;
+class editionsfrm;
 class packages;
 class start;
 
@@ -68,6 +69,8 @@ protected:
     void backToTheIndex();
     // Opens the packages manager over the editor, lets `work` act in it and closes it.
     void inPackagesManager(const std::function<void(packages&)>& work);
+    // Opens the editions window from the editor, lets `work` act in it, and closes it.
+    void inEditionsWindow(const std::function<void(editionsfrm&)>& work);
 
     // ---- What is on disk, below the project root
     std::string root();
