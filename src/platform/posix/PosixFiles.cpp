@@ -153,15 +153,21 @@ std::vector<DirectoryEntry> PosixHost::listMatching(const std::string& folder, c
     DIR* directory = hostFolder.empty() ? nullptr : ::opendir(hostFolder.c_str());
     if (directory == nullptr) return entries;
     const bool root = !folder.empty() && isDriveRoot(folder);
+    std::vector<std::string> names, hostNames;
     while (const dirent* item = ::readdir(directory)) {
-        const std::string name = utf8ToWindows1252(item->d_name);
+        std::string name = utf8ToWindows1252(item->d_name);
         if ((root && isDots(name)) || !matchesWildcard(name, wildcard)) continue;
-        // Relative to the open folder, which spares the kernel a walk of the whole path.
-        struct stat info {};
-        if (::fstatat(::dirfd(directory), item->d_name, &info, 0) != 0) continue;
-        if (S_ISDIR(info.st_mode) && !includeFolders) continue;
-        const std::string hostPath = dosAttributes ? hostFolder + "/" + item->d_name : std::string();
-        entries.push_back(entryOf(name, hostPath, info, dosAttributes));
+        names.push_back(std::move(name));
+        hostNames.emplace_back(item->d_name);
+    }
+    // Relative to the open folder, which spares the kernel a walk of the whole path.
+    const std::vector<EntryStat> stats = folderStats_.statAll(::dirfd(directory), hostNames);
+    entries.reserve(names.size());
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        const struct stat& info = stats[index].info;
+        if (!stats[index].found || (S_ISDIR(info.st_mode) && !includeFolders)) continue;
+        const std::string hostPath = dosAttributes ? hostFolder + "/" + hostNames[index] : std::string();
+        entries.push_back(entryOf(std::move(names[index]), hostPath, info, dosAttributes));
     }
     ::closedir(directory);
     std::sort(entries.begin(), entries.end(), listingOrder);

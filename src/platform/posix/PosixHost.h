@@ -9,6 +9,7 @@
 #include "platform/posix/ArchiverLinks.h"
 #include "platform/posix/DriveMap.h"
 #include "platform/posix/FileKeyStore.h"
+#include "platform/posix/FolderStats.h"
 
 namespace orvanta {
 
@@ -86,6 +87,7 @@ private:
     DriveMap drives_;
     FileKeyStore store_;
     ArchiverLinks archivers_;
+    FolderStats folderStats_;
     std::map<RegistryKey, std::string> openKeys_;  // handle -> key path
     RegistryKey nextHandle_ = 0x1000;
     std::map<int, bool> children_;  // process id -> ended (reaped)

@@ -54,5 +54,32 @@ TEST(PosixPlaces, HostPathsOnTheCommandLineArriveInWindowsForm) {
     EXPECT_EQ(line.find('/'), std::string::npos) << line;
 }
 
+// A large folder is stat'ed on two threads; every entry must still get its own size, a dangling
+// link is left out as it was before, and a second large folder reuses the worker.
+TEST(PosixListing, LargeFoldersListEveryEntryWithItsOwnLength) {
+    testing::Sandbox box;
+    for (int file = 0; file < 300; ++file)
+        box.writeFile("big\\f" + std::to_string(file) + ".dat",
+                      std::string(static_cast<std::size_t>(file), 'x'));
+    box.makeFolder("big\\sub");
+    std::filesystem::create_symlink(box.hostRoot() / "nowhere",
+                                    box.host().toHostPath(box.windowsPath("big")) + "/dangling");
+    for (int round = 0; round < 2; ++round) {
+        const auto entries = box.host().listDirectoryLengths(box.windowsPath("big\\*"), true);
+        std::size_t files = 0;
+        for (const DirectoryEntry& entry : entries) {
+            if (entry.name == "." || entry.name == ".." || entry.name == "sub") {
+                EXPECT_TRUE(entry.isFolder()) << entry.name;
+                continue;
+            }
+            ASSERT_EQ(entry.name.front(), 'f') << entry.name;
+            EXPECT_EQ(entry.length, std::stoull(entry.name.substr(1))) << entry.name;
+            ++files;
+        }
+        EXPECT_EQ(files, 300u);
+        EXPECT_EQ(entries.size(), 303u) << "the dangling link is not listed";
+    }
+}
+
 }  // namespace
 }  // namespace orvanta
