@@ -56,9 +56,7 @@ ProjectNameCheck checkProjectName(Host& host, const std::string& workspaceFolder
 }
 
 std::string unusableNameText(const std::string& name) {
-    return "\"" + name +
-           "\" can't be a project name: a folder name can't hold \\ / : * ? \" < > |, end in a "
-           "dot or a blank, or be a device name.";
+    return "\"" + name + "\" can't be a project name: " + kFolderNameRule;
 }
 
 std::optional<std::string> createProjectTree(Host& host, const std::string& workspaceFolder,

@@ -25,6 +25,9 @@ enum class ProjectNameCheck {
 };
 ProjectNameCheck checkProjectName(Host& host, const std::string& workspaceFolder, const std::string& text,
                                   const std::string& placeholder);
+// Why a name may not be a folder's, as the messages about such names end.
+inline constexpr const char* kFolderNameRule =
+    "a folder name can't hold \\ / : * ? \" < > |, end in a dot or a blank, or be a device name.";
 // The status text for a name that no folder may hold.
 std::string unusableNameText(const std::string& name);
 

@@ -26,9 +26,7 @@ std::string nameRefusal(const std::string& word, const std::string& what, const 
     if (word == kNoEditions || word == kNoVersions || word == kMarkerNoEditions || word == kMarkerNoVersions)
         return "\"" + word + "\" stands for no " + what + "; choose another name.";
     if (!isUsableFolderName(word))
-        return "\"" + word + "\" can't be the name of " + named +
-               ": a folder name can't hold \\ / : * ? \" < > |, end in a dot or a blank, or be a device "
-               "name.";
+        return "\"" + word + "\" can't be the name of " + named + ": " + kFolderNameRule;
     return {};
 }
 
