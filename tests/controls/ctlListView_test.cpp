@@ -78,28 +78,6 @@ TEST_F(ListView, ItemCheckComesForAClickOnTheBox) {
     EXPECT_TRUE(list.ItemChecked(0));
 }
 
-TEST_F(ListView, ItemsAddedWithAStateKeepIt) {
-    list.setCheckboxes(true);
-    list.ListItemsAdd(0, "checked", -1, kStateImageChecked | LVIS_SELECTED);
-    list.ListItemsAdd(0, "first");
-    EXPECT_EQ(list.ListItemsText(0), "first");
-    EXPECT_TRUE(list.ItemChecked(1));
-    EXPECT_EQ(list.SelectedItemIndex(), 1);
-    list.ListItemsAdd(99, "last");
-    EXPECT_EQ(list.ListItemsText(2), "last");
-}
-
-TEST_F(ListView, FileTypesShareOneImageEach) {
-    list.InitializeImageListSmall(16, 16);
-    const int music = list.SystemImageIndex(".mp3");
-    EXPECT_EQ(list.SystemImageIndex("C:\\songs\\Track.MP3"), music);
-    EXPECT_NE(list.SystemImageIndex("readme.txt"), music);
-    list.ListItemsAdd(0, "song", music);
-    EXPECT_FALSE(list.hwnd()->topLevelItem(0)->icon(0).isNull());
-    list.ListItemsAdd(1, "no picture", 99);
-    EXPECT_TRUE(list.hwnd()->topLevelItem(1)->icon(0).isNull());
-}
-
 TEST_F(ListView, OutOfRangeIndexesAreIgnoredAndReadEmpty) {
     addItems({"a"});
     list.ListItemsRemove(5);
@@ -129,14 +107,6 @@ TEST_F(ListView, SubItemsFollowTheirColumnsWhenOneIsRemoved) {
     EXPECT_EQ(list.ColumnHeadersCount(), 0);
     EXPECT_TRUE(list.hwnd()->isColumnHidden(0)) << "no column: the items show no text";
     EXPECT_EQ(list.ListItemsText(0), "a");
-}
-
-TEST_F(ListView, ColumnsKeepTheirCountOutsideTheReportView) {
-    list.setView(LVS_LIST);
-    EXPECT_EQ(list.ColumnHeadersCount(), 2);
-    EXPECT_TRUE(list.hwnd()->isHeaderHidden());
-    list.setView(LVS_REPORT);
-    EXPECT_FALSE(list.hwnd()->isHeaderHidden());
 }
 
 TEST_F(ListView, ColumnClickTogglesTheOrderAndSortsWhenSorted) {

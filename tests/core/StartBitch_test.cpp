@@ -129,18 +129,6 @@ TEST_F(MainTest, NoArchiverWarnsWithAMessageBoxOnWindowsXp) {
     EXPECT_TRUE(dialogs.taskDialogs.empty());
 }
 
-TEST_F(MainTest, AMarkerOnTheCommandLineLoadsItsProjectFolder) {
-    box.writeFile("Documents\\Orvanta\\myinstallers\\Demo\\Demo.ovproj",
-                  "Demo\r\nNo Editions\r\nNo Versions\r\ndeployLocal\r\nf\r\n");
-    const std::string folder = box.windowsPath("Documents\\Orvanta\\myinstallers\\Demo");
-    box.config().commandLine = folder + "\\Demo.ovproj";
-    box.restartHost();
-    EXPECT_EQ(runMain(), MainOutcome::ProjectLoaded);
-    EXPECT_EQ(startShown, 0);
-    ASSERT_EQ(loadedFolders.size(), 1u);
-    EXPECT_EQ(loadedFolders[0], folder);
-}
-
 TEST_F(MainTest, AQuotedCommandLineFailsAtTheOpen) {
     box.writeFile("Demo.ovproj", "Demo\r\n");
     box.config().commandLine = "\"" + box.windowsPath("Demo.ovproj") + "\"";

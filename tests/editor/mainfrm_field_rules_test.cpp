@@ -44,23 +44,6 @@ TEST_F(FieldRules, PlaceholdersShowGreyItalicUntilFocusedAndComeBackWhenLeftEmpt
     EXPECT_EQ(text("Text14"), "");
 }
 
-TEST_F(FieldRules, EveryPlaceholderBoxHasItsOwnWordsAndOnlyLinksHaveCompanions) {
-    const std::pair<const char*, const char*> boxes[] = {{"Text28", "Help link"},
-                                                         {"Text29", "Update info link"},
-                                                         {"Text26", "Arguments"},
-                                                         {"Text31", "Shortcuts arguments"},
-                                                         {"Text7", "Shortcuts tooltip"}};
-    for (const auto& [name, words] : boxes) {
-        EXPECT_EQ(text(name), words) << name;
-        EXPECT_TRUE(looksLikePlaceholder(get<QLineEdit>(name))) << name;
-    }
-    focus("Text29", true);
-    EXPECT_TRUE(checked("Check32"));
-    EXPECT_FALSE(checked("Check31"));
-    focus("Text26", true);
-    EXPECT_EQ(text("Text26"), "");
-}
-
 TEST_F(FieldRules, InstallPathPreviewFollowsRootAndAuthorFolder) {
     setText("Text9", "Acme");
     setText("Combo5", "Themes\\");
@@ -206,17 +189,6 @@ TEST_F(FieldRules, CountersShowCharactersAndTheBoxesKeepTheirLimits) {
     setText("Text11", std::string(499, 'x') + "\ny");
     EXPECT_EQ(text("Label8"), "Start description (2 paragraphs max) 499/500 chars:");
     EXPECT_EQ(text("Text11"), std::string(499, 'x'));
-}
-
-TEST_F(FieldRules, NameUpdaterWritesTheDefaultsThatFollowNameAndAuthor) {
-    setText("Text9", "Acme");
-    window->appname_updater();
-    EXPECT_EQ(text("Text18"), "Thanks for using Demo!");
-    EXPECT_EQ(text("Text4"), "Demo");
-    EXPECT_EQ(text("Text3"), "\\Software\\Demo");
-    EXPECT_EQ(text("Text13"), "Acme");
-    EXPECT_EQ(text("Text15"), "Demo");
-    EXPECT_EQ(text("Text8"), "installDemo.exe");
 }
 
 TEST_F(FieldRules, InstantUpdateDisablesIgnoreLicenceAndOpensTheOtherTwo) {

@@ -65,14 +65,6 @@ TEST_F(Shell, ImageButtonsShowATitleOnlyWhileThePointerIsOver) {
     EXPECT_EQ(text("controlTips"), "");
 }
 
-TEST_F(Shell, SaveButtonSavesWithoutAQuestion) {
-    setSaveAlways(1);
-    window->saver_Click();
-    EXPECT_EQ(saves, 1);
-    EXPECT_TRUE(dialogs.taskDialogs.empty());
-    EXPECT_TRUE(dialogs.messageBoxes.empty());
-}
-
 TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSet) {
     window->close();
     EXPECT_EQ(saves, 1);
@@ -130,22 +122,6 @@ TEST_F(Shell, SimulationNeedsASave) {
     EXPECT_EQ(saves, 2);
     EXPECT_EQ(previews, 2);
     EXPECT_EQ(dialogs.taskDialogs.size(), 2u);
-}
-
-TEST_F(Shell, StartsWithItsDesignDefaults) {
-    EXPECT_EQ(text("Combo4"), "Windows XP");
-    EXPECT_EQ(text("Combo2"), "HKLM");
-    EXPECT_EQ(text("Combo3"), "ROAMING\\");
-    EXPECT_EQ(text("Combo5"), "<>");
-    EXPECT_EQ(get<QComboBox>("Combo5").count(), 6);
-    EXPECT_EQ(text("Text21"), ".exe");
-    EXPECT_EQ(text("Text16"), "1.0");
-    EXPECT_EQ(text("Text33"), "No editions");
-    EXPECT_EQ(text("Text10"), "<>");
-    EXPECT_EQ(text("tips"), "Tips go here!");
-    EXPECT_EQ(text("Label21"), "Start Menu");
-    EXPECT_EQ(text("Text17"), "Click uninstall to proceed. This process is unreversible!");
-    EXPECT_EQ(vars::compressionLevel, "5");
 }
 
 }  // namespace

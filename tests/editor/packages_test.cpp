@@ -6,45 +6,6 @@
 namespace orvanta::testing {
 namespace {
 
-TEST_F(PackagesManager, AddingAppendsABlockAndMakesTheFolderBelowTheProject) {
-    writeList(packageBlock("Docs", "<>\\docs", "Manuals", "1", "0", "120", "1"));
-    open();
-    ASSERT_EQ(List1().ListItemsCount(), 1);
-
-    button("Command2").click();
-    EXPECT_EQ(button("Command2").text(), "OK");
-    EXPECT_EQ(button("Command3").text(), "C");
-    EXPECT_TRUE(button("Command3").isEnabled());
-    EXPECT_FALSE(button("Command4").isEnabled());
-    EXPECT_FALSE(button("Command5").isEnabled());
-    EXPECT_EQ(Combo5().currentText(), "<>\\");
-    EXPECT_EQ(text("Text3").text(), "0");
-    EXPECT_TRUE(text("Text1").isEnabled());
-
-    text("Text1").setText("Extras");
-    Combo5().setEditText("Program Files\\Extras");
-    text("Text2").setText("More tools");
-    check("Check2").click();  // a required package is installed by default too
-    button("Command2").click();
-
-    EXPECT_EQ(readList(),
-              packageBlock("Docs", "<>\\docs", "Manuals", "1", "0", "120", "1") +
-                  packageBlock("Extras", "Program Files\\Extras", "More tools", "1", "1", "0", "1"));
-    EXPECT_TRUE(box.exists(std::string(kRoot) + "\\packages\\Extras"));
-    ASSERT_EQ(List1().ListItemsCount(), 2);
-    EXPECT_EQ(List1().ListItemsText(1), "Extras");
-    EXPECT_TRUE(List1().ItemChecked(1));
-    EXPECT_EQ(window->packageCount(), 2);
-    // Back in view mode with nothing to change.
-    EXPECT_EQ(button("Command2").text(), "+");
-    EXPECT_EQ(button("Command3").text(), "-");
-    EXPECT_FALSE(button("Command3").isEnabled());
-    EXPECT_FALSE(button("Command4").isEnabled());
-    EXPECT_EQ(text("Text1").text(), "");
-    EXPECT_FALSE(text("Text1").isEnabled());
-    EXPECT_TRUE(dialogs.messageBoxes.empty());
-}
-
 TEST_F(PackagesManager, CancellingAnAddWritesNothing) {
     open();
     fillAddedPackage("Extras", "Themes\\Dark", "Skins");
@@ -141,45 +102,6 @@ TEST_F(PackagesManager, SavingAChangedRowRewritesItWithTheSizeOfItsFolder) {
     EXPECT_EQ(List1().SelectedItemIndex(), 1);
     EXPECT_FALSE(button("Command4").isEnabled());
     EXPECT_TRUE(dialogs.messageBoxes.empty());
-}
-
-TEST_F(PackagesManager, RemovingRewritesWithoutTheRowAndKeepsItsFiles) {
-    writeList(packageBlock("A", "<>\\a") + packageBlock("", "<>\\nameless") + packageBlock("B", "<>\\b") +
-              packageBlock("C", "<>\\c"));
-    box.writeFile(std::string(kRoot) + "\\packages\\B\\file.txt", "kept");
-    open();
-    ASSERT_EQ(window->packageCount(), 4);
-
-    clickRow(2);
-    button("Command3").click();
-    // The nameless package goes with the first removal after it.
-    EXPECT_EQ(readList(), packageBlock("A", "<>\\a") + packageBlock("C", "<>\\c"));
-    EXPECT_EQ(box.readFile(std::string(kRoot) + "\\packages\\B\\file.txt"), "kept");
-    EXPECT_EQ(List1().ListItemsCount(), 2);
-    EXPECT_EQ(window->packageCount(), 2);
-    EXPECT_FALSE(button("Command3").isEnabled());
-
-    // Slots past the count still hold old packages; they must not come back.
-    for (int left = 2; left > 0; --left) {
-        clickRow(0);
-        button("Command3").click();
-    }
-    EXPECT_EQ(readList(), "");
-    EXPECT_EQ(List1().ListItemsCount(), 0);
-}
-
-TEST_F(PackagesManager, ClosingWritesTheEditorButtonCaption) {
-    writeList(packageBlock("A", "<>\\a") + packageBlock("B", "<>\\b"));
-    open();
-    button("Command1").click();
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(captions, std::vector<std::string>{"Manage packages \r\n2 package(s)"});
-
-    // Without a list the count is 0, and the title bar's close writes it as well.
-    writeList("");
-    captions.clear();
-    open().close();
-    EXPECT_EQ(captions, std::vector<std::string>{"Manage packages \r\n0 package(s)"});
 }
 
 TEST_F(PackagesManager, CheckBoxesFollowEachOtherAndTheListMark) {

@@ -151,15 +151,6 @@ TEST_F(HostFiles, FoldersAreMadeAndRemovedOneEmptyLevelAtATime) {
     EXPECT_FALSE(host.fileAttributes(at("x")).has_value());
 }
 
-TEST_F(HostFiles, TheDriveOfTheSandboxReportsFreeSpace) {
-    const auto space = host.diskSpace(box.windowsRoot().substr(0, 3));
-    ASSERT_TRUE(space.has_value());
-    EXPECT_GT(space->bytesPerSector, 0u);
-    EXPECT_GT(space->sectorsPerCluster, 0u);
-    EXPECT_GT(space->totalClusters, 0u);
-    EXPECT_LE(space->freeClusters, space->totalClusters);
-}
-
 class HostRegistry : public ::testing::Test {
 protected:
     static constexpr const char* kKey = "Software\\OrvantaHostTest\\Settings";

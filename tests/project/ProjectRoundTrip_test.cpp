@@ -63,46 +63,6 @@ protected:
     }
 };
 
-TEST_F(ProjectRoundTrip, EveryFieldComesBackButTheThreeNoFileStores) {
-    fillForm();
-    fields->setText(licenseButtonCaption, "Show terms");
-    fields->setText(editionName, "Gold");
-    fields->setText(fullLicenseFile, "license.rtf");
-    ASSERT_EQ(save(), SaveOutcome::Saved);
-    const std::string intro = box.readFile(rel("intro.cfg")), end = box.readFile(rel("uninstallEnd.cfg"));
-
-    const auto saved = lines("mainsettings.cfg");
-    ASSERT_EQ(saved.size(), 49u);
-    for (const auto& [control, line, text] : kTextLines)
-        EXPECT_EQ(saved[static_cast<std::size_t>(line - 1)], text) << control.name;
-    EXPECT_EQ(saved[0], "Demo");
-    EXPECT_EQ(saved[4], "") << "the full licence file has no line of its own";
-    EXPECT_EQ(saved[9], "7") << "the size of \\files, recomputed";
-    EXPECT_EQ(saved[22], "Show terms");
-    EXPECT_EQ(saved[23], "REGDEL");
-    EXPECT_EQ(saved[39], "Gold");
-    EXPECT_EQ(saved[43], "i");
-    EXPECT_EQ(vars::finalPackageFile, "demo-2.5.exe");
-
-    auto loaded = freshEditor();
-    ASSERT_EQ(load(*loaded), LoadOutcome::Loaded);
-    EXPECT_EQ(loaded->text(licenseButtonCaption), "Read full license");
-    EXPECT_EQ(loaded->text(editionName), "No editions");
-    EXPECT_EQ(loaded->text(fullLicenseFile), "");
-    for (const auto& [key, original] : fields->controls()) {
-        if (key == "licenseButtonCaption" || key == "editionName" || key == "fullLicenseFile") continue;
-        const auto& copy = loaded->controls().at(key);
-        EXPECT_EQ(copy.text, original.text) << key;
-        EXPECT_EQ(copy.value, original.value) << key;
-        EXPECT_EQ(copy.items, original.items) << key;
-        EXPECT_EQ(copy.placeholderLook, original.placeholderLook) << key;
-    }
-    EXPECT_EQ(loaded->listItems(files), (std::vector<ListItem>{{"demo.exe"}, {"sub\\data.bin"}}));
-    save(*loaded);
-    EXPECT_EQ(box.readFile(rel("intro.cfg")), intro) << "multi-line texts neither grow nor shrink";
-    EXPECT_EQ(box.readFile(rel("uninstallEnd.cfg")), end);
-}
-
 TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
     for (const auto& [flag, line] : kFlagLines) {
         fields = freshEditor();

@@ -110,22 +110,6 @@ TEST_F(WorkingSetFilesTest, DeleterOfAMissingWorkingSetDoesNothing) {
     EXPECT_TRUE(box.exists("Demo\\mainsettings.cfg"));
 }
 
-TEST_F(WorkingSetFilesTest, IndexListsTheRootAndEveryFolderWithSettingsByName) {
-    ASSERT_TRUE(createWorkingSet(box.host(), source, "Gold", "").refusal.empty());
-    ASSERT_TRUE(createWorkingSet(box.host(), source, "Home", "2.0").refusal.empty());
-    ASSERT_TRUE(createWorkingSet(box.host(), source, "Basic", "No versions").refusal.empty());
-    box.makeFolder("Demo\\versions\\2.0\\v2.0");  // a version's application files, not a working set
-    box.makeFolder("Demo\\editions\\Empty");
-
-    std::vector<std::string> listed;
-    for (const WorkingSet& set : listWorkingSets(box.host(), source.projectRoot))
-        listed.push_back(set.edition + "|" + set.version + "|" + set.subPath);
-    EXPECT_EQ(listed, (std::vector<std::string>{
-                          "No editions|No versions|", "Basic|No versions|\\editions\\Basic",
-                          "Gold|No versions|\\editions\\Gold", "Home|2.0|\\versions\\2.0\\Home"}));
-    EXPECT_EQ(box.readFile("Demo\\versions\\2.0\\Home\\mainsettings.cfg"), "root mainsettings.cfg");
-}
-
 TEST_F(WorkingSetFilesTest, CreationRefusesNamesNoFolderMayHoldTheNoWordsAndTakenNames) {
     const auto refusal = [this](const std::string& edition, const std::string& version) {
         return createWorkingSet(box.host(), source, edition, version).refusal;
@@ -138,21 +122,6 @@ TEST_F(WorkingSetFilesTest, CreationRefusesNamesNoFolderMayHoldTheNoWordsAndTake
     EXPECT_EQ(refusal("Pro", ""), "\"" + source.projectRoot + "\\editions\\Pro\" already exists.");
     EXPECT_FALSE(box.exists("Demo\\versions"));
     EXPECT_FALSE(box.exists("Demo\\editions\\Pro\\mainsettings.cfg")) << "the taken folder is left alone";
-}
-
-TEST_F(WorkingSetFilesTest, DeletionRemovesTheWorkingSetAndItsEmptyVersionFolder) {
-    createWorkingSet(box.host(), source, "Home", "2.0");
-    createWorkingSet(box.host(), source, "Pro", "2.0");
-    const auto sets = listWorkingSets(box.host(), source.projectRoot);
-    ASSERT_EQ(sets.size(), 3u);
-
-    deleteWorkingSet(box.host(), source.projectRoot, sets[1]);
-    EXPECT_FALSE(box.exists("Demo\\versions\\2.0\\Home"));
-    EXPECT_TRUE(box.exists("Demo\\versions\\2.0\\Pro\\mainsettings.cfg"));
-    deleteWorkingSet(box.host(), source.projectRoot, sets[2]);
-    EXPECT_FALSE(box.exists("Demo\\versions"));
-    deleteWorkingSet(box.host(), source.projectRoot, sets[0]);
-    EXPECT_EQ(box.readFile("Demo\\mainsettings.cfg"), "root mainsettings.cfg") << "the root is never deleted";
 }
 
 }  // namespace
