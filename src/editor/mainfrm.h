@@ -122,12 +122,14 @@ public slots:
     void Command36_Click();
     void Command37_Click();
     void Command44_Click();
-    // The preview is not loaded with the project: it is fetched when its page is shown.
+    // The preview is not loaded with the project: the window fetches it when the working folder
+    // changes, when it is shown and when the page of the preview is shown.
     void loadPreview();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:

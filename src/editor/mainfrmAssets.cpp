@@ -49,6 +49,8 @@ void mainfrm::connectAssets() {
     connect(ui_->Command1, &QPushButton::clicked, this, [this] {
         if (context_.showBackgrounds) context_.showBackgrounds();
     });
+    // A project that opens, or a switch of working set, brings its own preview.
+    connect(ui_->Text2, &QLineEdit::textChanged, this, &mainfrm::loadPreview);
 }
 
 std::string mainfrm::pickFile(const std::string& title, const std::string& filter, const std::string& pattern,

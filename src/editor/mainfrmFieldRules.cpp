@@ -58,6 +58,10 @@ void mainfrm::connectFieldRules() {
     connect(ui_->Check20, &QCheckBox::toggled, this, &mainfrm::install_path_updater);
     connect(ui_->Text11, &QPlainTextEdit::textChanged, this, &mainfrm::countCharacters);
     connect(ui_->Text12, &QPlainTextEdit::textChanged, this, &mainfrm::countCharacters);
+    // No file stores the uninstaller's display name and publisher: they show the name and the
+    // author, and follow them as they change.
+    connect(ui_->Text1, &QLineEdit::textChanged, ui_->Text15, &QLineEdit::setText);
+    connect(ui_->Text9, &QLineEdit::textChanged, ui_->Text13, &QLineEdit::setText);
 }
 
 void mainfrm::install_path_updater() {

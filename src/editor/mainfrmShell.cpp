@@ -1,6 +1,7 @@
 // The shell of the editor: pages, the image buttons of the header and their highlight.
 #include <QEvent>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QTabBar>
 
 #include "core/commonFunctions.h"
@@ -125,6 +126,12 @@ void mainfrm::showPage(int page) {
     ui_->Picture3->setVisible(page == 3);
     for (std::size_t i = 0; i < modeimg.size(); ++i) modeimg[i]->setVisible(static_cast<int>(i) + 1 == page);
     if (page == 1) loadPreview();
+}
+
+// The loader's end shows the window: the preview of the project just opened comes with it.
+void mainfrm::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) loadPreview();
 }
 
 int mainfrm::shownPage() const {

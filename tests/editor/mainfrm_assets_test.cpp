@@ -95,7 +95,7 @@ TEST_F(Assets, FullLicenceFileFollowsItsField) {
     EXPECT_FALSE(enabled("Command41"));
 }
 
-TEST_F(Assets, PreviewIsCopiedShownAndFetchedWhenItsPageIsShown) {
+TEST_F(Assets, PreviewIsCopiedShownAndShownAgainWhenTheProjectOpens) {
     dialogs.answerNextOpenFile(writePicture(sandbox, "green.png", Qt::green));
     window->Command26_Click();
     EXPECT_TRUE(sandbox.exists(projectRelative("preview.png")));
@@ -104,8 +104,8 @@ TEST_F(Assets, PreviewIsCopiedShownAndFetchedWhenItsPageIsShown) {
 
     auto other = std::make_unique<mainfrm>(context());
     other->findChild<QLineEdit*>(QStringLiteral("Text2"))->setText(QString::fromStdString(projectRoot()));
-    other->showPage(1);
     EXPECT_FALSE(other->noway[0]->isVisibleTo(other.get()));
+    EXPECT_TRUE(other->findChild<QPushButton*>(QStringLiteral("Command39"))->isEnabled());
     EXPECT_FALSE(other->findChild<aicAlphaImage*>(QStringLiteral("aicAlphaImage1"))->image().Width() == 0);
 
     window->Command39_Click();

@@ -44,6 +44,8 @@ TEST_F(Shell, TipLineShowsEachControlsTextUntilAnotherReplacesIt) {
               "Forces 'run application at startup' to be applied. The user won't be able to change it.");
     pointerEnters(get<QWidget>("Command32"));
     EXPECT_EQ(text("tips"), "Seek for files on the folder and adds them automatically.");
+    pointerEnters(get<QWidget>("Command1"));
+    EXPECT_NE(text("tips").find("documents\\Orvanta\\backgrounds folder"), std::string::npos);
     pointerEnters(get<QWidget>("tips"));
     EXPECT_EQ(text("tips"), "");
 }
