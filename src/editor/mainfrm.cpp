@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QTabBar>
-#include <chrono>
-#include <random>
 
 #include "core/vars.h"
 #include "editor/FormText.h"
@@ -83,18 +81,6 @@ void mainfrm::appname_updater() {
     setTextOf(*ui_->Text13, textOf(*ui_->Text9));
     setTextOf(*ui_->Text15, name);
     setTextOf(*ui_->Text8, "install" + name + ".exe");
-}
-
-std::string mainfrm::Randome(int low, int high) {
-    std::mt19937 generator(
-        static_cast<std::mt19937::result_type>(std::chrono::steady_clock::now().time_since_epoch().count()));
-    const double fraction = std::generate_canonical<double, 32>(generator);
-    const int x = static_cast<int>(fraction * high) + low;
-    if (x <= 3) return "D";
-    if (x <= 6) return "A";
-    if (x <= 10) return "F";
-    if (x <= 14) return "C";
-    return {};
 }
 
 void mainfrm::CheckFormStatus(const QWidget& form) {

@@ -62,7 +62,6 @@ public:
 
     // ---- The shell
     void appname_updater();
-    static std::string Randome(int low, int high);
     void CheckFormStatus(const QWidget& form);
     // Shows page 1, 2 or 3 (Picture1 to Picture3) and its header picture, leaving the strip as it is.
     void showPage(int page);

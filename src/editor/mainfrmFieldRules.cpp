@@ -11,6 +11,8 @@
 #include "editor/FormText.h"
 #include "editor/InstallPathRules.h"
 #include "editor/mainfrm.h"
+#include "editor/mainfrmFields.h"
+#include "project/UninstallOptions.h"
 #include "ui_mainfrm.h"
 
 namespace orvanta {
@@ -78,11 +80,8 @@ void mainfrm::cleanall_updater() {
 }
 
 void mainfrm::re_uninoptions() {
-    const UninstallOptionStates states = uninstallOptionStates(static_cast<std::size_t>(ui_->List3->count()),
-                                                               static_cast<std::size_t>(ui_->List4->count()));
-    ui_->Option1->setEnabled(states.deleteAllEnabled);
-    ui_->Option2->setEnabled(states.registryOnlyEnabled);
-    ui_->Option3->setEnabled(true);
+    mainfrmFields fields(*this);
+    orvanta::re_uninoptions(fields);
 }
 
 void mainfrm::countCharacters() {
