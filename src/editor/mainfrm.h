@@ -4,6 +4,7 @@
 // "Check23", "noway" 1 through the arrays below). The window itself keeps the rules that tie the
 // fields together, the item lists, the view of the application's files and the asset buttons.
 
+#include <QPointer>
 #include <QWidget>
 #include <array>
 #include <cstdint>
@@ -26,6 +27,7 @@ class mainfrm;
 namespace orvanta {
 
 class aicAlphaImage;
+class optionsfrm;
 
 // What the editor needs from the rest of the program. Windows that belong to other parts are
 // reached through these hooks; an empty hook does nothing.
@@ -36,7 +38,6 @@ struct mainfrmContext {
     Dialogs& dialogs;
     std::function<void()> project_saver;
     std::function<void()> showPackages;        // Command35
-    std::function<void()> showOptions;         // the "Options" link
     std::function<void()> showStart;           // after leaving by the "Start menu" link
     std::function<void()> showEditions;        // the editions and versions window
     std::function<void()> unloadStart;         // after leaving any other way: the program ends
@@ -85,6 +86,8 @@ public slots:
     void Label21_Click();
     void Label22_Click();
     void Label23_Click();
+    // The "Options" link: one options window, without modality, owned by the editor.
+    void Label24_Click();
 
     // Item lists
     void Command5_Click();
@@ -124,6 +127,9 @@ public slots:
     // The preview is not loaded with the project: the window fetches it when the working folder
     // changes, when it is shown and when the page of the preview is shown.
     void loadPreview();
+    // Tells the user why a damaged PNG could not be shown, in its reader's words; any other
+    // picture that fails stays silent.
+    void reportUnreadablePicture(const aicAlphaImage& control, const std::string& path);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -179,6 +185,7 @@ private:
     SettingsSetColumn ownSettingsSetNames_;
     SettingsSetColumn ownSettingsSetTypes_;
     bool choosingExecutable_ = false;
+    QPointer<optionsfrm> options_;
 };
 
 }  // namespace orvanta

@@ -61,7 +61,11 @@ std::string mainfrm::pickFile(const std::string& title, const std::string& filte
 void mainfrm::Command15_Click() {
     const std::string picked = pickFile("Select a logo image", "PNG Image|*.png", "*.png", "");
     if (picked.empty()) return;
-    if (!ui_->logo->LoadImage_FromFile(picked) || !ui_->logo2->LoadImage_FromFile(picked)) return;
+    if (!ui_->logo->LoadImage_FromFile(picked)) {
+        reportUnreadablePicture(*ui_->logo, picked);
+        return;
+    }
+    if (!ui_->logo2->LoadImage_FromFile(picked)) return;
     if (!context_.host.copyFile(picked, workingFolder() + "\\logo.png")) return;
     ui_->Command40->setEnabled(true);
     noway[1]->hide();
@@ -124,7 +128,10 @@ void mainfrm::Command41_Click() {
 void mainfrm::Command26_Click() {
     const std::string picked = pickFile("Select a preview image", "PNG Image|*.png", "*.png", "");
     if (picked.empty()) return;
-    if (!ui_->aicAlphaImage1->LoadImage_FromFile(picked)) return;
+    if (!ui_->aicAlphaImage1->LoadImage_FromFile(picked)) {
+        reportUnreadablePicture(*ui_->aicAlphaImage1, picked);
+        return;
+    }
     if (!context_.host.copyFile(picked, workingFolder() + "\\preview.png")) return;
     ui_->Command39->setEnabled(true);
     noway[0]->hide();
@@ -144,6 +151,13 @@ void mainfrm::loadPreview() {
     if (!shown) ui_->aicAlphaImage1->ClearImage();
     noway[0]->setVisible(!shown);
     ui_->Command39->setEnabled(shown);
+}
+
+void mainfrm::reportUnreadablePicture(const aicAlphaImage& control, const std::string& path) {
+    const std::string& error = control.image().LoadError();
+    if (error.empty()) return;
+    context_.dialogs.messageBox({"The picture " + path + " could not be shown.\r\n" + error,
+                                 MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
 }
 
 void mainfrm::Command36_Click() {

@@ -224,7 +224,11 @@ void mainfrmFields::setListIndex(ControlName list, int index) {
 }
 
 bool mainfrmFields::loadPicture(ControlName picture, const std::string& path) {
-    return as<aicAlphaImage>(picture).LoadImage_FromFile(path);
+    aicAlphaImage& control = as<aicAlphaImage>(picture);
+    const bool shown = control.LoadImage_FromFile(path);
+    // The header's copy of the logo follows the logo, which has told the user already.
+    if (!shown && picture.name != "logo2") window_.reportUnreadablePicture(control, path);
+    return shown;
 }
 
 void mainfrmFields::clearPicture(ControlName picture) {

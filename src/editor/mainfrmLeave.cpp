@@ -10,6 +10,7 @@
 #include "core/vars.h"
 #include "editor/FormText.h"
 #include "editor/mainfrm.h"
+#include "editor/optionsfrm.h"
 #include "ui_mainfrm.h"
 
 namespace orvanta {
@@ -76,6 +77,17 @@ void mainfrm::startDrag() {
     if (QWindow* handle = window()->windowHandle()) handle->startSystemMove();
 }
 
+void mainfrm::Label24_Click() {
+    if (options_ == nullptr) {
+        options_ = new optionsfrm(context_.host, this);
+        options_->setAttribute(Qt::WA_DeleteOnClose);
+        options_->setWindowModality(Qt::NonModal);
+    }
+    options_->show();
+    options_->raise();
+    options_->activateWindow();
+}
+
 bool mainfrm::filterLinks(QObject* watched, QEvent* event) {
     if (watched == ui_->controlTips && event->type() == QEvent::MouseButtonPress) {
         startDrag();
@@ -85,7 +97,7 @@ bool mainfrm::filterLinks(QObject* watched, QEvent* event) {
     if (watched == ui_->Label21) Label21_Click();
     if (watched == ui_->Label22) Label22_Click();
     if (watched == ui_->Label23) Label23_Click();
-    if (watched == ui_->Label24 && context_.showOptions) context_.showOptions();
+    if (watched == ui_->Label24) Label24_Click();
     if (watched == ui_->Label34) {
         auto* window = new about(context_.host, context_.dialogs, this);
         window->setAttribute(Qt::WA_DeleteOnClose);

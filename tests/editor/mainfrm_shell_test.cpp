@@ -3,8 +3,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QTabBar>
+#include <QTest>
 
 #include "EditorFixture.h"
+#include "editor/optionsfrm.h"
 #include "image/widget/aicAlphaImage.h"
 
 namespace orvanta::testing {
@@ -65,6 +67,16 @@ TEST_F(Shell, ImageButtonsShowATitleOnlyWhileThePointerIsOver) {
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&get<QWidget>("packageit"), &leave);
     EXPECT_EQ(text("controlTips"), "");
+}
+
+TEST_F(Shell, OptionsLinkOpensOneOptionsWindowWithoutModality) {
+    window->show();
+    for (int click = 0; click < 2; ++click) QTest::mouseClick(&get<QLabel>("Label24"), Qt::LeftButton);
+    const auto windows = window->findChildren<optionsfrm*>();
+    ASSERT_EQ(windows.size(), 1);
+    EXPECT_TRUE(windows[0]->isVisible());
+    EXPECT_EQ(windows[0]->windowModality(), Qt::NonModal);
+    EXPECT_FALSE(windows[0]->isModal());
 }
 
 TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSet) {
