@@ -4,18 +4,22 @@
 // "Check23", "noway" 1 through the arrays below). The window itself keeps the rules that tie the
 // fields together, the item lists, the view of the application's files and the asset buttons.
 
+#include <QPoint>
 #include <QPointer>
 #include <QWidget>
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/Dialogs.h"
 #include "editor/settingsSetsfrm.h"
 #include "platform/Host.h"
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTabBar;
@@ -135,7 +139,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
+
+signals:
+    // A drag on the header band has handed the window to the system's move.
+    void moveStarted();
 
 private:
     void Form_Load();
@@ -154,9 +161,13 @@ private:
     void highlight(aicAlphaImage& image, bool on);
     bool askToSave(const std::string& question);
     void saveProject();
+    void connectHeader();
+    std::vector<QLabel*> links() const;
+    void activateLink(QLabel& link);
     void startDrag();
     bool filterFocus(QObject* watched, QEvent* event);
-    bool filterLinks(QObject* watched, QEvent* event);
+    bool filterMouse(QObject* watched, QEvent* event);
+    bool filterHeaderDrag(QEvent* event);
     bool filterDisabledImage(QObject* watched, QEvent* event);
 
     // Field rules
@@ -186,6 +197,7 @@ private:
     SettingsSetColumn ownSettingsSetTypes_;
     bool choosingExecutable_ = false;
     QPointer<optionsfrm> options_;
+    std::optional<QPoint> dragFrom_;  // where a press on the header band began
 };
 
 }  // namespace orvanta

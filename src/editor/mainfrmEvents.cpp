@@ -43,7 +43,10 @@ bool mainfrm::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     if (type == QEvent::FocusIn || type == QEvent::FocusOut) filterFocus(watched, event);
-    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease) filterLinks(watched, event);
+    if ((type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+         type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove) &&
+        filterMouse(watched, event))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

@@ -50,12 +50,7 @@ void mainfrm::connectShell() {
     connect(ui_->Command49, &QPushButton::clicked, this, [this] {
         if (context_.showEditions) context_.showEditions();
     });
-    for (QLabel* link : {ui_->Label21, ui_->Label22, ui_->Label23, ui_->Label24, ui_->Label34}) {
-        link->setCursor(Qt::PointingHandCursor);
-        link->setStyleSheet(QStringLiteral("color: #1f5fa8; text-decoration: underline;"));
-        link->installEventFilter(this);
-    }
-    ui_->controlTips->installEventFilter(this);
+    connectHeader();
 }
 
 void mainfrm::drawPictures() {

@@ -1,7 +1,9 @@
 // The window's shell: pages, the tip line, saving, and leaving with or without the question.
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
 
@@ -67,6 +69,30 @@ TEST_F(Shell, ImageButtonsShowATitleOnlyWhileThePointerIsOver) {
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&get<QWidget>("packageit"), &leave);
     EXPECT_EQ(text("controlTips"), "");
+}
+
+// A press elsewhere used to start a move, which swallowed the click and the typing after it.
+TEST_F(Shell, OnlyADragOnTheHeaderBandMovesTheWindowAndCaptionsFocusTheirFields) {
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    QSignalSpy moves(window.get(), &mainfrm::moveStarted);
+    const std::pair<const char*, const char*> captions[] = {
+        {"caption2", "Text9"}, {"caption6", "Combo4"}, {"caption9", "List6"}, {"caption13", "Command15"}};
+    for (const auto& [caption, field] : captions) {
+        QTest::mouseClick(&get<QLabel>(caption), Qt::LeftButton);
+        EXPECT_TRUE(get<QWidget>(field).hasFocus()) << caption;
+    }
+    for (const char* plain : {"Label26", "Frame2", "Picture1", "tips"})
+        QTest::mouseClick(&get<QWidget>(plain), Qt::LeftButton);
+    QTest::mouseClick(&get<QLabel>("Label23"), Qt::LeftButton);
+    EXPECT_EQ(window->shownPage(), 3);
+    EXPECT_EQ(moves.count(), 0);
+
+    auto& band = get<QWidget>("controlTips");
+    QTest::mousePress(&band, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseMove(&band, QPoint(30, 4));
+    QTest::mouseRelease(&band, Qt::LeftButton, {}, QPoint(30, 4));
+    EXPECT_EQ(moves.count(), 1);
 }
 
 TEST_F(Shell, OptionsLinkOpensOneOptionsWindowWithoutModality) {
