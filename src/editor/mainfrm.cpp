@@ -30,6 +30,7 @@ mainfrm::mainfrm(mainfrmContext context, QWidget* parent)
     connectFilesView();
     installTips();
     Form_Load();
+    connectKeyboard();
 }
 
 mainfrm::~mainfrm() = default;

@@ -162,6 +162,9 @@ private:
     bool askToSave(const std::string& question);
     void saveProject();
     void connectHeader();
+    void connectKeyboard();
+    std::vector<aicAlphaImage*> imageButtons() const;
+    bool filterKeyboard(QObject* watched, QEvent* event);
     std::vector<QLabel*> links() const;
     void activateLink(QLabel& link);
     void startDrag();

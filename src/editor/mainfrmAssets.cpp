@@ -9,6 +9,7 @@
 #include "core/commonFunctions.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
+#include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
 #include "project/ProjectPaths.h"
@@ -69,7 +70,7 @@ void mainfrm::Command15_Click() {
     if (!context_.host.copyFile(picked, workingFolder() + "\\logo.png")) return;
     ui_->Command40->setEnabled(true);
     noway[1]->hide();
-    ui_->Command15->setText(QStringLiteral("Replace logo"));
+    setCaptionKeepingMnemonic(*ui_->Command15, QStringLiteral("Replace logo"));
 }
 
 void mainfrm::Command40_Click() {
@@ -78,7 +79,7 @@ void mainfrm::Command40_Click() {
     context_.host.deleteFile(workingFolder() + "\\logo.png");
     ui_->Command40->setEnabled(false);
     noway[1]->show();
-    ui_->Command15->setText(QStringLiteral("Add logo"));
+    setCaptionKeepingMnemonic(*ui_->Command15, QStringLiteral("Add logo"));
 }
 
 void mainfrm::Command14_Click() {

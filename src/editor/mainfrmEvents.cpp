@@ -42,6 +42,7 @@ bool mainfrm::eventFilter(QObject* watched, QEvent* event) {
             if (tip.isValid()) showTip(tip.toByteArray().toStdString());
         }
     }
+    if (filterKeyboard(watched, event)) return true;
     if (type == QEvent::FocusIn || type == QEvent::FocusOut) filterFocus(watched, event);
     if ((type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
          type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove) &&

@@ -26,7 +26,9 @@ bool isLeftPress(const QEvent* event) {
 void mainfrm::connectHeader() {
     for (QLabel* link : links()) {
         link->setCursor(Qt::PointingHandCursor);
-        link->setStyleSheet(QStringLiteral("color: #1f5fa8; text-decoration: underline;"));
+        link->setStyleSheet(
+            QStringLiteral("QLabel { color: #1f5fa8; text-decoration: underline; } "
+                           "QLabel:focus { border: 1px dotted #1f5fa8; }"));
         link->installEventFilter(this);
     }
     for (QLabel* label : findChildren<QLabel*>())

@@ -6,6 +6,7 @@
 
 #include "core/commonFunctions.h"
 #include "editor/EditorPictures.h"
+#include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
 #include "ui_mainfrm.h"
@@ -137,7 +138,7 @@ int mainfrm::shownPage() const {
 }
 
 void mainfrm::TabStrip1_Click() {
-    const QString caption = ui_->TabStrip1->tabText(ui_->TabStrip1->currentIndex());
+    const QString caption = withoutMnemonic(ui_->TabStrip1->tabText(ui_->TabStrip1->currentIndex()));
     if (caption == QLatin1String("General")) showPage(1);
     if (caption == QLatin1String("Installer")) showPage(2);
     if (caption == QLatin1String("Uninstaller")) showPage(3);

@@ -1,11 +1,17 @@
 // The window's shell: pages, the tip line, saving, and leaving with or without the question.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
+#include <set>
 
 #include "EditorFixture.h"
 #include "editor/optionsfrm.h"
@@ -93,6 +99,60 @@ TEST_F(Shell, OnlyADragOnTheHeaderBandMovesTheWindowAndCaptionsFocusTheirFields)
     QTest::mouseMove(&band, QPoint(30, 4));
     QTest::mouseRelease(&band, Qt::LeftButton, {}, QPoint(30, 4));
     EXPECT_EQ(moves.count(), 1);
+}
+
+bool takesTheKeyboard(const QWidget& widget) {
+    return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+// Tab from the tab strip round the window; the widget that holds the focus, or the control it
+// stands in (an editable combo box's line).
+std::set<const QWidget*> reachedWithTab(QWidget& start) {
+    std::set<const QWidget*> reached;
+    start.setFocus(Qt::TabFocusReason);
+    for (int step = 0; step < 200; ++step) {
+        QWidget* focus = QApplication::focusWidget();
+        if (focus == nullptr) break;
+        reached.insert(focus);
+        reached.insert(focus->parentWidget());
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+    return reached;
+}
+
+TEST_F(Shell, EveryControlIsReachedWithTabAndAnswersToALetterAndCtrlSSaves) {
+    window->show();
+    QApplication::setActiveWindow(window.get());
+    auto& strip = get<QTabBar>("TabStrip1");
+    for (int tab = 0; tab < strip.count(); ++tab) {
+        strip.setCurrentIndex(tab);
+        const std::set<const QWidget*> reached = reachedWithTab(strip);
+        for (QWidget* control : window->findChildren<QWidget*>()) {
+            const bool isControl =
+                qobject_cast<QAbstractButton*>(control) || qobject_cast<QLineEdit*>(control) ||
+                qobject_cast<QComboBox*>(control) || qobject_cast<QAbstractItemView*>(control) ||
+                qobject_cast<QPlainTextEdit*>(control) || control->property("orvantaTitle").isValid() ||
+                control->cursor().shape() == Qt::PointingHandCursor;
+            // An editable combo box's line is reached with its box.
+            if (!isControl || !control->isVisible() || !control->isEnabled() ||
+                qobject_cast<QComboBox*>(control->parentWidget()) != nullptr)
+                continue;
+            // An option of a group is reached with the arrow keys once the group has the focus.
+            auto* option = qobject_cast<QRadioButton*>(control);
+            if (option != nullptr && !option->isChecked()) continue;
+            EXPECT_TRUE(takesTheKeyboard(*control) && reached.count(control) == 1)
+                << control->objectName().toStdString() << " on tab " << tab;
+            auto* button = qobject_cast<QAbstractButton*>(control);
+            const bool hasLetters =
+                button != nullptr && button->text().contains(QRegularExpression(QStringLiteral("[A-Za-z]")));
+            EXPECT_TRUE(!hasLetters || button->text().contains(QLatin1Char('&')))
+                << control->objectName().toStdString();
+        }
+    }
+    QTest::keyClick(window.get(), Qt::Key_I, Qt::AltModifier);
+    EXPECT_EQ(window->shownPage(), 2);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(saves, 1);
 }
 
 TEST_F(Shell, OptionsLinkOpensOneOptionsWindowWithoutModality) {
