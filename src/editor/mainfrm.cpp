@@ -46,6 +46,13 @@ void mainfrm::Form_Load() {
     ui_->Text12->setProperty("maxLength", 420);
     for (QLineEdit* box : {ui_->Text14, ui_->Text28, ui_->Text29, ui_->Text26, ui_->Text31, ui_->Text7})
         setPlaceholderLook(*box, true);
+    // A value the user cannot type into does not look like a box that takes typing.
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        if (!box->isReadOnly()) continue;
+        QPalette look = box->palette();
+        look.setColor(QPalette::Base, look.color(QPalette::Window));
+        box->setPalette(look);
+    }
     ui_->Text30->hide();
     ui_->Command46->hide();
     // Without a licence the licence group waits for its box; nothing in the folder is touched yet.

@@ -26,8 +26,9 @@ bool isLeftPress(const QEvent* event) {
 void mainfrm::connectHeader() {
     for (QLabel* link : links()) {
         link->setCursor(Qt::PointingHandCursor);
+        // Underlined only under the pointer, so that the underline of its letter shows.
         link->setStyleSheet(
-            QStringLiteral("QLabel { color: #1f5fa8; text-decoration: underline; } "
+            QStringLiteral("QLabel { color: #1f5fa8; } QLabel:hover { text-decoration: underline; } "
                            "QLabel:focus { border: 1px dotted #1f5fa8; }"));
         link->installEventFilter(this);
     }
@@ -36,8 +37,9 @@ void mainfrm::connectHeader() {
     ui_->header->installEventFilter(this);
 }
 
+// The header's links first: they take their letters before those of the first page.
 std::vector<QLabel*> mainfrm::links() const {
-    return {ui_->Label21, ui_->Label22, ui_->Label23, ui_->Label24, ui_->Label34};
+    return {ui_->Label21, ui_->Label24, ui_->Label34, ui_->Label22, ui_->Label23};
 }
 
 bool mainfrm::filterMouse(QObject* watched, QEvent* event) {

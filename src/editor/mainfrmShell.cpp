@@ -117,6 +117,12 @@ void mainfrm::highlight(aicAlphaImage& image, bool on) {
 }
 
 void mainfrm::showPage(int page) {
+    // The focus of a page that goes moves to the strip rather than on to the header's buttons.
+    QWidget* const pictures[] = {ui_->Picture1, ui_->Picture2, ui_->Picture3};
+    QWidget* focus = focusWidget();
+    for (int i = 0; i < 3; ++i)
+        if (i + 1 != page && focus != nullptr && pictures[i]->isAncestorOf(focus))
+            ui_->TabStrip1->setFocus(Qt::OtherFocusReason);
     ui_->Picture1->setVisible(page == 1);
     ui_->Picture2->setVisible(page == 2);
     ui_->Picture3->setVisible(page == 3);
