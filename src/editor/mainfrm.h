@@ -193,6 +193,7 @@ private:
     std::string pickFile(const std::string& title, const std::string& filter, const std::string& pattern,
                          const std::string& folder);
     std::string licensePath() const;
+    void showAgain(aicAlphaImage& control, const std::string& file);
 
     mainfrmContext context_;
     std::unique_ptr<Ui::mainfrm> ui_;

@@ -64,6 +64,7 @@ void mainfrm::Command15_Click() {
     if (picked.empty()) return;
     if (!ui_->logo->LoadImage_FromFile(picked)) {
         reportUnreadablePicture(*ui_->logo, picked);
+        showAgain(*ui_->logo, workingFolder() + "\\logo.png");
         return;
     }
     if (!ui_->logo2->LoadImage_FromFile(picked)) return;
@@ -131,6 +132,7 @@ void mainfrm::Command26_Click() {
     if (picked.empty()) return;
     if (!ui_->aicAlphaImage1->LoadImage_FromFile(picked)) {
         reportUnreadablePicture(*ui_->aicAlphaImage1, picked);
+        showAgain(*ui_->aicAlphaImage1, workingFolder() + "\\preview.png");
         return;
     }
     if (!context_.host.copyFile(picked, workingFolder() + "\\preview.png")) return;
@@ -152,6 +154,11 @@ void mainfrm::loadPreview() {
     if (!shown) ui_->aicAlphaImage1->ClearImage();
     noway[0]->setVisible(!shown);
     ui_->Command39->setEnabled(shown);
+}
+
+// A picked picture that fails to load leaves the working set's own picture on show.
+void mainfrm::showAgain(aicAlphaImage& control, const std::string& file) {
+    if (fileExists(context_.host, file)) control.LoadImage_FromFile(file);
 }
 
 void mainfrm::reportUnreadablePicture(const aicAlphaImage& control, const std::string& path) {

@@ -52,15 +52,21 @@ TEST_F(Assets, UnreadableLogoEndsTheActionBeforeAnyCopyAndADamagedPngSaysWhy) {
     dialogs.answerNextOpenFile(sandbox.windowsPath("pictures\\bad.png"));
     window->Command15_Click();
     EXPECT_TRUE(dialogs.messageBoxes.empty());
+    EXPECT_FALSE(sandbox.exists(projectRelative("logo.png")));
+    EXPECT_EQ(text("Command15"), "Add logo");
+    EXPECT_FALSE(enabled("Command40"));
 
+    // A damaged PNG picked over a logo leaves the logo of the working set on show.
+    dialogs.answerNextOpenFile(writePicture(sandbox, "blue.png", Qt::blue));
+    window->Command15_Click();
+    const std::string logo = sandbox.readFile(projectRelative("logo.png"));
     const std::string cut = writePicture(sandbox, "cut.png", Qt::red);
     const std::string bytes = sandbox.readFile("pictures\\cut.png");
     sandbox.writeFile("pictures\\cut.png", bytes.substr(0, bytes.size() - 20));
     dialogs.answerNextOpenFile(cut);
     window->Command15_Click();
-    EXPECT_FALSE(sandbox.exists(projectRelative("logo.png")));
-    EXPECT_EQ(text("Command15"), "Add logo");
-    EXPECT_FALSE(enabled("Command40"));
+    EXPECT_EQ(sandbox.readFile(projectRelative("logo.png")), logo);
+    EXPECT_NE(get<aicAlphaImage>("logo").image().Width(), 0);
     ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
     EXPECT_EQ(dialogs.messageBoxes[0].text,
               "The picture " + cut + " could not be shown.\r\nThe file ends inside a chunk.");
