@@ -139,6 +139,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 signals:
     // A drag on the header band has handed the window to the system's move.
@@ -163,6 +164,7 @@ private:
     void saveProject();
     void connectHeader();
     void connectKeyboard();
+    void focusTheTabs();
     std::vector<aicAlphaImage*> imageButtons() const;
     bool filterKeyboard(QObject* watched, QEvent* event);
     std::vector<QLabel*> links() const;

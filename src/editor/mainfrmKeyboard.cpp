@@ -45,6 +45,14 @@ void mainfrm::connectKeyboard() {
     }
 }
 
+// The window opens with the focus on its tabs rather than on the header's first image button.
+void mainfrm::focusTheTabs() {
+    const std::vector<aicAlphaImage*> images = imageButtons();
+    QWidget* focus = focusWidget();
+    if (focus == nullptr || std::find(images.begin(), images.end(), focus) != images.end())
+        ui_->TabStrip1->setFocus(Qt::OtherFocusReason);
+}
+
 // An image button with the focus shows its title and highlight as under the pointer; Space or
 // Enter presses it. A link takes its letter, Space or Enter as a click.
 bool mainfrm::filterKeyboard(QObject* watched, QEvent* event) {

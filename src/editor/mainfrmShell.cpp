@@ -133,7 +133,15 @@ void mainfrm::showPage(int page) {
 // The loader's end shows the window: the preview of the project just opened comes with it.
 void mainfrm::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (!event->spontaneous()) loadPreview();
+    if (event->spontaneous()) return;
+    loadPreview();
+    focusTheTabs();
+}
+
+// A load disables the window, which loses its focus; enabled again it starts from the tabs.
+void mainfrm::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && isEnabled()) focusTheTabs();
 }
 
 int mainfrm::shownPage() const {
