@@ -42,7 +42,9 @@ bool mainfrm::eventFilter(QObject* watched, QEvent* event) {
             if (tip.isValid()) showTip(tip.toByteArray().toStdString());
         }
     }
-    if (filterKeyboard(watched, event)) return true;
+    const bool keyboard = type == QEvent::KeyPress || type == QEvent::Shortcut || type == QEvent::FocusIn ||
+                          type == QEvent::FocusOut;
+    if (keyboard && filterKeyboard(watched, event)) return true;
     if (type == QEvent::FocusIn || type == QEvent::FocusOut) filterFocus(watched, event);
     if ((type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
          type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove) &&
