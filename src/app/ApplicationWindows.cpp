@@ -8,7 +8,6 @@
 #include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
-#include "editor/optionsfrm.h"
 #include "editor/packages.h"
 #include "project/EditionSwitch.h"
 #include "project/EditorControls.h"
@@ -69,7 +68,6 @@ mainfrm& ApplicationWindows::ensureEditor() {
         project_saver(saving);
     };
     context.showPackages = [this] { showPackages(); };
-    context.showOptions = [this] { showOptions(); };
     context.showEditions = [this] { showEditions(); };
     context.showStart = [this] { showStart(); };
     context.unloadStart = [this] { unloadStart(); };
@@ -163,11 +161,6 @@ void ApplicationWindows::showEditions() {
             changes_edition(switching, edition, version);
         }};
     editionsfrm window(host_, dialogs_, std::move(context), &editor);
-    window.exec();
-}
-
-void ApplicationWindows::showOptions() {
-    optionsfrm window(host_, &ensureEditor());
     window.exec();
 }
 

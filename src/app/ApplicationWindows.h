@@ -45,7 +45,6 @@ private:
     void unloadStart();
     void unloadEditor();
     void showPackages();
-    void showOptions();
     void showEditions();
     void showStatusOnStart(const std::string& text);
 

@@ -61,8 +61,4 @@ CleanAllState cleanAllState(const std::string& installPath) {
     return {0, containsRoot};
 }
 
-UninstallOptionStates uninstallOptionStates(std::size_t registryLocations, std::size_t appDataLocations) {
-    return {appDataLocations > 0, registryLocations > 0};
-}
-
 }  // namespace orvanta

@@ -1,9 +1,8 @@
 #pragma once
-// The rules behind the install path box: the preview of the resulting location, whether the
-// uninstaller may wipe the installation folder, and which uninstall options the lists allow.
+// The rules behind the install path box: the preview of the resulting location, and whether the
+// uninstaller may wipe the installation folder.
 // Plain strings in, plain answers out, so the window only moves the values.
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -24,12 +23,5 @@ struct CleanAllState {
     bool enabled = false;
 };
 CleanAllState cleanAllState(const std::string& installPath);
-
-// Option1 needs application data locations, Option2 registry locations; Option3 is always open.
-struct UninstallOptionStates {
-    bool deleteAllEnabled = false;
-    bool registryOnlyEnabled = false;
-};
-UninstallOptionStates uninstallOptionStates(std::size_t registryLocations, std::size_t appDataLocations);
 
 }  // namespace orvanta

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QTabBar>
-#include <chrono>
-#include <random>
 
 #include "core/vars.h"
 #include "editor/FormText.h"
@@ -32,6 +30,7 @@ mainfrm::mainfrm(mainfrmContext context, QWidget* parent)
     connectFilesView();
     installTips();
     Form_Load();
+    connectKeyboard();
 }
 
 mainfrm::~mainfrm() = default;
@@ -47,6 +46,13 @@ void mainfrm::Form_Load() {
     ui_->Text12->setProperty("maxLength", 420);
     for (QLineEdit* box : {ui_->Text14, ui_->Text28, ui_->Text29, ui_->Text26, ui_->Text31, ui_->Text7})
         setPlaceholderLook(*box, true);
+    // A value the user cannot type into does not look like a box that takes typing.
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        if (!box->isReadOnly()) continue;
+        QPalette look = box->palette();
+        look.setColor(QPalette::Base, look.color(QPalette::Window));
+        box->setPalette(look);
+    }
     ui_->Text30->hide();
     ui_->Command46->hide();
     // Without a licence the licence group waits for its box; nothing in the folder is touched yet.
@@ -83,18 +89,6 @@ void mainfrm::appname_updater() {
     setTextOf(*ui_->Text13, textOf(*ui_->Text9));
     setTextOf(*ui_->Text15, name);
     setTextOf(*ui_->Text8, "install" + name + ".exe");
-}
-
-std::string mainfrm::Randome(int low, int high) {
-    std::mt19937 generator(
-        static_cast<std::mt19937::result_type>(std::chrono::steady_clock::now().time_since_epoch().count()));
-    const double fraction = std::generate_canonical<double, 32>(generator);
-    const int x = static_cast<int>(fraction * high) + low;
-    if (x <= 3) return "D";
-    if (x <= 6) return "A";
-    if (x <= 10) return "F";
-    if (x <= 14) return "C";
-    return {};
 }
 
 void mainfrm::CheckFormStatus(const QWidget& form) {

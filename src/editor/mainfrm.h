@@ -4,17 +4,22 @@
 // "Check23", "noway" 1 through the arrays below). The window itself keeps the rules that tie the
 // fields together, the item lists, the view of the application's files and the asset buttons.
 
+#include <QPoint>
+#include <QPointer>
 #include <QWidget>
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/Dialogs.h"
 #include "editor/settingsSetsfrm.h"
 #include "platform/Host.h"
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTabBar;
@@ -26,6 +31,7 @@ class mainfrm;
 namespace orvanta {
 
 class aicAlphaImage;
+class optionsfrm;
 
 // What the editor needs from the rest of the program. Windows that belong to other parts are
 // reached through these hooks; an empty hook does nothing.
@@ -36,7 +42,6 @@ struct mainfrmContext {
     Dialogs& dialogs;
     std::function<void()> project_saver;
     std::function<void()> showPackages;        // Command35
-    std::function<void()> showOptions;         // the "Options" link
     std::function<void()> showStart;           // after leaving by the "Start menu" link
     std::function<void()> showEditions;        // the editions and versions window
     std::function<void()> unloadStart;         // after leaving any other way: the program ends
@@ -62,7 +67,6 @@ public:
 
     // ---- The shell
     void appname_updater();
-    static std::string Randome(int low, int high);
     void CheckFormStatus(const QWidget& form);
     // Shows page 1, 2 or 3 (Picture1 to Picture3) and its header picture, leaving the strip as it is.
     void showPage(int page);
@@ -86,6 +90,8 @@ public slots:
     void Label21_Click();
     void Label22_Click();
     void Label23_Click();
+    // The "Options" link: one options window, without modality, owned by the editor.
+    void Label24_Click();
 
     // Item lists
     void Command5_Click();
@@ -122,13 +128,22 @@ public slots:
     void Command36_Click();
     void Command37_Click();
     void Command44_Click();
-    // The preview is not loaded with the project: it is fetched when its page is shown.
+    // The preview is not loaded with the project: the window fetches it when the working folder
+    // changes, when it is shown and when the page of the preview is shown.
     void loadPreview();
+    // Tells the user why a damaged PNG could not be shown, in its reader's words; any other
+    // picture that fails stays silent.
+    void reportUnreadablePicture(const aicAlphaImage& control, const std::string& path);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+signals:
+    // A drag on the header band has handed the window to the system's move.
+    void moveStarted();
 
 private:
     void Form_Load();
@@ -147,9 +162,17 @@ private:
     void highlight(aicAlphaImage& image, bool on);
     bool askToSave(const std::string& question);
     void saveProject();
+    void connectHeader();
+    void connectKeyboard();
+    void focusTheTabs();
+    std::vector<aicAlphaImage*> imageButtons() const;
+    bool filterKeyboard(QObject* watched, QEvent* event);
+    std::vector<QLabel*> links() const;
+    void activateLink(QLabel& link);
     void startDrag();
     bool filterFocus(QObject* watched, QEvent* event);
-    bool filterLinks(QObject* watched, QEvent* event);
+    bool filterMouse(QObject* watched, QEvent* event);
+    bool filterHeaderDrag(QEvent* event);
     bool filterDisabledImage(QObject* watched, QEvent* event);
 
     // Field rules
@@ -172,12 +195,15 @@ private:
     std::string pickFile(const std::string& title, const std::string& filter, const std::string& pattern,
                          const std::string& folder);
     std::string licensePath() const;
+    void showAgain(aicAlphaImage& control, const std::string& file);
 
     mainfrmContext context_;
     std::unique_ptr<Ui::mainfrm> ui_;
     SettingsSetColumn ownSettingsSetNames_;
     SettingsSetColumn ownSettingsSetTypes_;
     bool choosingExecutable_ = false;
+    QPointer<optionsfrm> options_;
+    std::optional<QPoint> dragFrom_;  // where a press on the header band began
 };
 
 }  // namespace orvanta

@@ -9,6 +9,7 @@
 #include "core/commonFunctions.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
+#include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
 #include "project/ProjectPaths.h"
@@ -49,6 +50,8 @@ void mainfrm::connectAssets() {
     connect(ui_->Command1, &QPushButton::clicked, this, [this] {
         if (context_.showBackgrounds) context_.showBackgrounds();
     });
+    // A project that opens, or a switch of working set, brings its own preview.
+    connect(ui_->Text2, &QLineEdit::textChanged, this, &mainfrm::loadPreview);
 }
 
 std::string mainfrm::pickFile(const std::string& title, const std::string& filter, const std::string& pattern,
@@ -59,11 +62,16 @@ std::string mainfrm::pickFile(const std::string& title, const std::string& filte
 void mainfrm::Command15_Click() {
     const std::string picked = pickFile("Select a logo image", "PNG Image|*.png", "*.png", "");
     if (picked.empty()) return;
-    if (!ui_->logo->LoadImage_FromFile(picked) || !ui_->logo2->LoadImage_FromFile(picked)) return;
+    if (!ui_->logo->LoadImage_FromFile(picked)) {
+        reportUnreadablePicture(*ui_->logo, picked);
+        showAgain(*ui_->logo, workingFolder() + "\\logo.png");
+        return;
+    }
+    if (!ui_->logo2->LoadImage_FromFile(picked)) return;
     if (!context_.host.copyFile(picked, workingFolder() + "\\logo.png")) return;
     ui_->Command40->setEnabled(true);
     noway[1]->hide();
-    ui_->Command15->setText(QStringLiteral("Replace logo"));
+    setCaptionKeepingMnemonic(*ui_->Command15, QStringLiteral("Replace logo"));
 }
 
 void mainfrm::Command40_Click() {
@@ -72,7 +80,7 @@ void mainfrm::Command40_Click() {
     context_.host.deleteFile(workingFolder() + "\\logo.png");
     ui_->Command40->setEnabled(false);
     noway[1]->show();
-    ui_->Command15->setText(QStringLiteral("Add logo"));
+    setCaptionKeepingMnemonic(*ui_->Command15, QStringLiteral("Add logo"));
 }
 
 void mainfrm::Command14_Click() {
@@ -122,7 +130,11 @@ void mainfrm::Command41_Click() {
 void mainfrm::Command26_Click() {
     const std::string picked = pickFile("Select a preview image", "PNG Image|*.png", "*.png", "");
     if (picked.empty()) return;
-    if (!ui_->aicAlphaImage1->LoadImage_FromFile(picked)) return;
+    if (!ui_->aicAlphaImage1->LoadImage_FromFile(picked)) {
+        reportUnreadablePicture(*ui_->aicAlphaImage1, picked);
+        showAgain(*ui_->aicAlphaImage1, workingFolder() + "\\preview.png");
+        return;
+    }
     if (!context_.host.copyFile(picked, workingFolder() + "\\preview.png")) return;
     ui_->Command39->setEnabled(true);
     noway[0]->hide();
@@ -142,6 +154,18 @@ void mainfrm::loadPreview() {
     if (!shown) ui_->aicAlphaImage1->ClearImage();
     noway[0]->setVisible(!shown);
     ui_->Command39->setEnabled(shown);
+}
+
+// A picked picture that fails to load leaves the working set's own picture on show.
+void mainfrm::showAgain(aicAlphaImage& control, const std::string& file) {
+    if (fileExists(context_.host, file)) control.LoadImage_FromFile(file);
+}
+
+void mainfrm::reportUnreadablePicture(const aicAlphaImage& control, const std::string& path) {
+    const std::string& error = control.image().LoadError();
+    if (error.empty()) return;
+    context_.dialogs.messageBox({"The picture " + path + " could not be shown.\r\n" + error,
+                                 MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
 }
 
 void mainfrm::Command36_Click() {

@@ -42,8 +42,14 @@ bool mainfrm::eventFilter(QObject* watched, QEvent* event) {
             if (tip.isValid()) showTip(tip.toByteArray().toStdString());
         }
     }
+    const bool keyboard = type == QEvent::KeyPress || type == QEvent::Shortcut || type == QEvent::FocusIn ||
+                          type == QEvent::FocusOut;
+    if (keyboard && filterKeyboard(watched, event)) return true;
     if (type == QEvent::FocusIn || type == QEvent::FocusOut) filterFocus(watched, event);
-    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease) filterLinks(watched, event);
+    if ((type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+         type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove) &&
+        filterMouse(watched, event))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

@@ -11,6 +11,8 @@
 #include "editor/FormText.h"
 #include "editor/InstallPathRules.h"
 #include "editor/mainfrm.h"
+#include "editor/mainfrmFields.h"
+#include "project/UninstallOptions.h"
 #include "ui_mainfrm.h"
 
 namespace orvanta {
@@ -58,6 +60,10 @@ void mainfrm::connectFieldRules() {
     connect(ui_->Check20, &QCheckBox::toggled, this, &mainfrm::install_path_updater);
     connect(ui_->Text11, &QPlainTextEdit::textChanged, this, &mainfrm::countCharacters);
     connect(ui_->Text12, &QPlainTextEdit::textChanged, this, &mainfrm::countCharacters);
+    // No file stores the uninstaller's display name and publisher: they show the name and the
+    // author, and follow them as they change.
+    connect(ui_->Text1, &QLineEdit::textChanged, ui_->Text15, &QLineEdit::setText);
+    connect(ui_->Text9, &QLineEdit::textChanged, ui_->Text13, &QLineEdit::setText);
 }
 
 void mainfrm::install_path_updater() {
@@ -74,11 +80,8 @@ void mainfrm::cleanall_updater() {
 }
 
 void mainfrm::re_uninoptions() {
-    const UninstallOptionStates states = uninstallOptionStates(static_cast<std::size_t>(ui_->List3->count()),
-                                                               static_cast<std::size_t>(ui_->List4->count()));
-    ui_->Option1->setEnabled(states.deleteAllEnabled);
-    ui_->Option2->setEnabled(states.registryOnlyEnabled);
-    ui_->Option3->setEnabled(true);
+    mainfrmFields fields(*this);
+    orvanta::re_uninoptions(fields);
 }
 
 void mainfrm::countCharacters() {

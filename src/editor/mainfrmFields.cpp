@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "editor/FormText.h"
+#include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
 #include "ui_mainfrm.h"
@@ -125,7 +126,8 @@ std::string mainfrmFields::text(ControlName control) const {
     if (auto* combo = qobject_cast<QComboBox*>(&widget)) return textOf(*combo);
     if (auto* multi = qobject_cast<QPlainTextEdit*>(&widget)) return textOf(*multi);
     if (auto* label = qobject_cast<QLabel*>(&widget)) return textOf(*label);
-    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return fromQString(button->text());
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+        return fromQString(withoutMnemonic(button->text()));
     return fromQString(widget.windowTitle());
 }
 
@@ -171,7 +173,8 @@ void mainfrmFields::setPlaceholderLook(ControlName control, bool on) {
 void mainfrmFields::setCaption(ControlName control, const std::string& caption) {
     QWidget& widget = as<QWidget>(control);
     if (&widget == &window_) widget.setWindowTitle(toQString(caption));
-    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) button->setText(toDisplayText(caption));
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+        setCaptionKeepingMnemonic(*button, toDisplayText(caption));
     if (auto* label = qobject_cast<QLabel*>(&widget)) label->setText(toDisplayText(caption));
 }
 
@@ -224,7 +227,11 @@ void mainfrmFields::setListIndex(ControlName list, int index) {
 }
 
 bool mainfrmFields::loadPicture(ControlName picture, const std::string& path) {
-    return as<aicAlphaImage>(picture).LoadImage_FromFile(path);
+    aicAlphaImage& control = as<aicAlphaImage>(picture);
+    const bool shown = control.LoadImage_FromFile(path);
+    // The header's copy of the logo follows the logo, which has told the user already.
+    if (!shown && picture.name != "logo2") window_.reportUnreadablePicture(control, path);
+    return shown;
 }
 
 void mainfrmFields::clearPicture(ControlName picture) {

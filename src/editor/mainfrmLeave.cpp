@@ -1,10 +1,7 @@
 // Saving, the simulator's question and leaving the window: with the setting "saveAlways" at 1
 // the user is asked first, otherwise the project is saved without a word.
 #include <QCloseEvent>
-#include <QMouseEvent>
-#include <QWindow>
 
-#include "controls/about.h"
 #include "core/RegistryAPI.h"
 #include "core/commonFunctions.h"
 #include "core/vars.h"
@@ -64,35 +61,6 @@ void mainfrm::closeEvent(QCloseEvent* event) {
 void mainfrm::Label21_Click() {
     setTextOf(*ui_->Label21, kStartMenu);
     close();
-}
-
-void mainfrm::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) startDrag();
-    QWidget::mousePressEvent(event);
-}
-
-// A press on the form or on the title line moves the window as its title bar would.
-void mainfrm::startDrag() {
-    if (QWindow* handle = window()->windowHandle()) handle->startSystemMove();
-}
-
-bool mainfrm::filterLinks(QObject* watched, QEvent* event) {
-    if (watched == ui_->controlTips && event->type() == QEvent::MouseButtonPress) {
-        startDrag();
-        return false;
-    }
-    if (event->type() != QEvent::MouseButtonRelease) return false;
-    if (watched == ui_->Label21) Label21_Click();
-    if (watched == ui_->Label22) Label22_Click();
-    if (watched == ui_->Label23) Label23_Click();
-    if (watched == ui_->Label24 && context_.showOptions) context_.showOptions();
-    if (watched == ui_->Label34) {
-        auto* window = new about(context_.host, context_.dialogs, this);
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->setWindowModality(Qt::NonModal);
-        window->show();
-    }
-    return false;
 }
 
 }  // namespace orvanta

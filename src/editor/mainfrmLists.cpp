@@ -3,12 +3,13 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
-#include <cctype>
 
 #include "core/commonFunctions.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
 #include "editor/mainfrm.h"
+#include "editor/mainfrmFields.h"
+#include "project/FontFolderScan.h"
 #include "project/ProjectPaths.h"
 #include "ui_mainfrm.h"
 
@@ -16,26 +17,10 @@ namespace orvanta {
 
 namespace {
 
-std::string lastThreeLowered(const std::string& name) {
-    std::string tail = name.size() < 3 ? name : name.substr(name.size() - 3);
-    std::transform(tail.begin(), tail.end(), tail.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return tail;
-}
-
-bool isFontFile(const std::string& name) {
-    const std::string tail = lastThreeLowered(name);
-    return tail == "otf" || tail == "ttf" || tail == "fon" || tail == "fnt";
-}
-
 // Controls are registered by default; the test knows the two usual spellings only.
 bool isControl(const std::string& name) {
     const std::string tail = name.size() < 3 ? name : name.substr(name.size() - 3);
     return tail == "ocx" || tail == "OCX";
-}
-
-bool listHolds(const QListWidget& list, const QString& text) {
-    return !list.findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty();
 }
 
 }  // namespace
@@ -187,15 +172,10 @@ void mainfrm::Command30_Click() {
     shellOpen(context_.host, context_.dialogs, inFolder(root, projectfolder::kFonts), "");
 }
 
-// Adds what is new and removes nothing, so a font whose file has vanished stays listed.
+// The same scan as the saver's: what is new is added, nothing is removed.
 void mainfrm::Command32_Click() {
-    const std::string folder = workingFolder() + "\\fonts\\";
-    for (const DirectoryEntry& entry : context_.host.listDirectory(folder + "*.*", false)) {
-        if (entry.name == "." || entry.name == ".." || entry.isFolder()) continue;
-        const QString name = toQString(entry.name);
-        if (isFontFile(entry.name) && !listHolds(*ui_->List2, name)) ui_->List2->addItem(name);
-        context_.host.processPendingMessages();
-    }
+    mainfrmFields fields(*this);
+    scanFontsFolder(context_.host, fields, workingFolder());
 }
 
 }  // namespace orvanta

@@ -1,10 +1,12 @@
 // The shell of the editor: pages, the image buttons of the header and their highlight.
 #include <QEvent>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QTabBar>
 
 #include "core/commonFunctions.h"
 #include "editor/EditorPictures.h"
+#include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
 #include "ui_mainfrm.h"
@@ -49,12 +51,7 @@ void mainfrm::connectShell() {
     connect(ui_->Command49, &QPushButton::clicked, this, [this] {
         if (context_.showEditions) context_.showEditions();
     });
-    for (QLabel* link : {ui_->Label21, ui_->Label22, ui_->Label23, ui_->Label24, ui_->Label34}) {
-        link->setCursor(Qt::PointingHandCursor);
-        link->setStyleSheet(QStringLiteral("color: #1f5fa8; text-decoration: underline;"));
-        link->installEventFilter(this);
-    }
-    ui_->controlTips->installEventFilter(this);
+    connectHeader();
 }
 
 void mainfrm::drawPictures() {
@@ -120,11 +117,31 @@ void mainfrm::highlight(aicAlphaImage& image, bool on) {
 }
 
 void mainfrm::showPage(int page) {
+    // The focus of a page that goes moves to the strip rather than on to the header's buttons.
+    QWidget* const pictures[] = {ui_->Picture1, ui_->Picture2, ui_->Picture3};
+    QWidget* focus = focusWidget();
+    for (int i = 0; i < 3; ++i)
+        if (i + 1 != page && focus != nullptr && pictures[i]->isAncestorOf(focus))
+            ui_->TabStrip1->setFocus(Qt::OtherFocusReason);
     ui_->Picture1->setVisible(page == 1);
     ui_->Picture2->setVisible(page == 2);
     ui_->Picture3->setVisible(page == 3);
     for (std::size_t i = 0; i < modeimg.size(); ++i) modeimg[i]->setVisible(static_cast<int>(i) + 1 == page);
     if (page == 1) loadPreview();
+}
+
+// The loader's end shows the window: the preview of the project just opened comes with it.
+void mainfrm::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (event->spontaneous()) return;
+    loadPreview();
+    focusTheTabs();
+}
+
+// A load disables the window, which loses its focus; enabled again it starts from the tabs.
+void mainfrm::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && isEnabled()) focusTheTabs();
 }
 
 int mainfrm::shownPage() const {
@@ -135,7 +152,7 @@ int mainfrm::shownPage() const {
 }
 
 void mainfrm::TabStrip1_Click() {
-    const QString caption = ui_->TabStrip1->tabText(ui_->TabStrip1->currentIndex());
+    const QString caption = withoutMnemonic(ui_->TabStrip1->tabText(ui_->TabStrip1->currentIndex()));
     if (caption == QLatin1String("General")) showPage(1);
     if (caption == QLatin1String("Installer")) showPage(2);
     if (caption == QLatin1String("Uninstaller")) showPage(3);

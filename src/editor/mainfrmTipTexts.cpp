@@ -6,9 +6,8 @@ const std::vector<std::pair<std::string_view, std::string_view>>& mainfrmTipText
     static const std::vector<std::pair<std::string_view, std::string_view>> tips = {
         {"aicAlphaImage1", "Add a preview shown during installation right next to tips."},
         {"aicAlphaImage3",
-         "Select your preferred background or add your own to documents\\O-Vanta\\backgrounds folder. Use "
-         "the "
-         "provided psd files to create your own."},
+         "Select your preferred background or add your own to documents\\Orvanta\\backgrounds folder. Use "
+         "the provided psd files to create your own."},
         {"Check1", "Shows a short license or notes on a step of its own. The text is kept in slicense.txt."},
         {"Check2", "Creates a shortcut to the main executable on the desktop."},
         {"Check3", "Creates a shortcut to the main executable in the start menu."},
@@ -45,9 +44,8 @@ const std::vector<std::pair<std::string_view, std::string_view>>& mainfrmTipText
          "followed "
          "by a folder of your own."},
         {"Command1",
-         "Select your preferred background or add your own to documents\\O-Vanta\\backgrounds folder. Use "
-         "the "
-         "provided psd files to create your own."},
+         "Select your preferred background or add your own to documents\\Orvanta\\backgrounds folder. Use "
+         "the provided psd files to create your own."},
         {"Command14",
          "You can run an executable or any file type at uninstallation to delete any remains of the "
          "application "
@@ -89,9 +87,13 @@ const std::vector<std::pair<std::string_view, std::string_view>>& mainfrmTipText
         {"Text3", "The registry key to add to the list, below the chosen root."},
         {"Text11", "The text of the installer's first step."},
         {"Text12", "Tips shown while the files are being installed."},
-        {"Text13", "The publisher shown in the list of installed programs."},
+        {"Text13",
+         "The publisher shown in the list of installed programs: the Author/Company of the General page, "
+         "which it "
+         "follows."},
         {"Text14", "A support address shown in the list of installed programs."},
-        {"Text15", "The name shown in the list of installed programs."},
+        {"Text15",
+         "The name shown in the list of installed programs: the application name, which it follows."},
         {"Text16",
          "Application version uninstallation string and required for update options. This is a required "
          "field."},

@@ -9,6 +9,7 @@
 #include "controls/ctlListView.h"
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
+#include "editor/Mnemonics.h"
 #include "editor/PackageLocation.h"
 #include "ui_packages.h"
 
@@ -53,6 +54,9 @@ packages::packages(Host& host, Dialogs& dialogs, PackagesContext context, Packag
     connect(ui_->Command5, &QPushButton::clicked, this, &packages::Command5_Click);
     ui_->Text3->installEventFilter(this);
     ui_->Combo5->installEventFilter(this);
+    // "+" and "-" have no letter; the captions they change into are set in their place.
+    MnemonicLetters letters;
+    giveMnemonics(*this, letters);
     Form_Load();
 }
 

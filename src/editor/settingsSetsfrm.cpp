@@ -9,6 +9,7 @@
 #include "controls/QtText.h"
 #include "core/CommondialogBox.h"
 #include "core/commonFunctions.h"
+#include "editor/Mnemonics.h"
 #include "project/LineFile.h"
 #include "project/ProjectPaths.h"
 
@@ -75,6 +76,8 @@ void settingsSetsfrm::buildRows() {
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     grid->addWidget(ok, kSettingsSetCount + 1, 4);
     grid->addWidget(cancel, kSettingsSetCount + 1, 5);
+    MnemonicLetters letters;
+    giveMnemonics(*this, letters);
 }
 
 std::string settingsSetsfrm::setFileText(const std::string& member, const std::string& name,

@@ -16,8 +16,11 @@ namespace {
 constexpr std::size_t kShortestRun = 57;
 
 // A damaged PNG ends the load: once the signature matched no other reader is asked.
-bool isPng(std::span<const std::uint8_t> bytes, c32bppDIB& surface) {
-    return cPNGparser().LoadStream(bytes, surface);
+bool isPng(std::span<const std::uint8_t> bytes, c32bppDIB& surface, std::string& error) {
+    cPNGparser parser;
+    const bool png = parser.LoadStream(bytes, surface);
+    error = parser.Failure();
+    return png;
 }
 
 // JPEG and what else the host's codec reads; its pixels come straight and go through the alpha check.
@@ -40,6 +43,7 @@ bool loadWithSystemCodec(std::span<const std::uint8_t> bytes, c32bppDIB& surface
 bool c32bppDIB::LoadPicture_File(Host& host, const std::string& fileName, std::int32_t iconCx,
                                  std::int32_t iconCy, bool saveFormat, std::int32_t iconBitDepth) {
     DestroyDIB();
+    loadError_.clear();
     const std::optional<std::uint64_t> length = host.fileLength(fileName);
     if (!length || *length < kShortestRun || *length > 0x7FFFFFFF) return false;
     const std::unique_ptr<FileReader> reader = host.openForReading(fileName);
@@ -59,6 +63,7 @@ bool c32bppDIB::LoadPicture_Stream(std::span<const std::uint8_t> inStream, std::
                                    std::int32_t iconCy, std::int64_t streamStart, std::int64_t streamLength,
                                    bool saveFormat, std::int32_t iconBitDepth) {
     DestroyDIB();
+    loadError_.clear();
     const auto size = static_cast<std::int64_t>(inStream.size());
     const std::int64_t start = std::max<std::int64_t>(streamStart, 0);
     if (start >= size) return false;
@@ -93,7 +98,7 @@ bool c32bppDIB::loadBytes(std::span<const std::uint8_t> bytes, std::int32_t icon
     iconCx = std::max(iconCx, 0);
     iconCy = std::max(iconCy, 0);
     if (iconBitDepth < 0 || iconBitDepth > 32) iconBitDepth = 32;
-    if (isPng(bytes, *this)) {
+    if (isPng(bytes, *this, loadError_)) {
         if (Handle() == 0) return false;
         if (saveFormat) originalBytes_.assign(bytes.begin(), bytes.end());
         return true;

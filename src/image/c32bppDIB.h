@@ -72,6 +72,8 @@ public:
     c32bppDIB& operator=(const c32bppDIB&) = delete;
 
     // ---- Loading: true if an image now stands in the surface.
+    // The PNG reader's words for the last load of a damaged PNG; empty after any other load.
+    const std::string& LoadError() const { return loadError_; }
     bool LoadPicture_File(Host& host, const std::string& fileName, std::int32_t iconCx = 0,
                           std::int32_t iconCy = 0, bool saveFormat = false, std::int32_t iconBitDepth = 32);
     // streamStart and streamLength as offsets into `inStream`; length 0 means to its end.
@@ -172,6 +174,7 @@ private:
     bool alpha_ = false;
     std::uintptr_t gdiToken_ = 0;
     std::vector<std::uint8_t> originalBytes_;
+    std::string loadError_;
 };
 
 // Checks 32-bit pixels for alpha: returns whether alpha is in use, sets `imageType` to 1, 6 or 7,

@@ -24,22 +24,35 @@ bool cPNGparser::LoadStream(std::span<const std::uint8_t> bytes, c32bppDIB& surf
     if (bytes.size() < sizeof kSignature || std::memcmp(bytes.data(), kSignature, sizeof kSignature) != 0)
         return false;
     surface.DestroyDIB();
+    failure_.clear();
+    if (!load(bytes, surface)) surface.DestroyDIB();
+    return true;
+}
+
+bool cPNGparser::load(std::span<const std::uint8_t> bytes, c32bppDIB& surface) {
     // The host's codec is not asked first: this decoder is exact and the same on every host.
     const std::unique_ptr<ZlibLibrary> zlib = ZlibLibrary::find();
+    if (!walkChunks(bytes, zlib.get())) return false;
+    if (compressed_.empty()) return fail("The file holds no image data (IDAT).");
     std::vector<std::uint8_t> unpacked;
-    if (!walkChunks(bytes, zlib.get()) || compressed_.empty() || !unpack(zlib.get(), unpacked)) return true;
+    if (!unpack(zlib.get(), unpacked)) return fail("The image data could not be unpacked.");
     makePalette();
-    if (!decode(unpacked, surface)) surface.DestroyDIB();
-    return true;
+    return decode(unpacked, surface) || fail("The image data is damaged.");
+}
+
+bool cPNGparser::fail(std::string why) {
+    failure_ = std::move(why);
+    return false;
 }
 
 bool cPNGparser::walkChunks(std::span<const std::uint8_t> bytes, ZlibLibrary* zlib) {
     compressed_.reserve(bytes.size() / 2);
     std::uint64_t at = sizeof kSignature;
     while (at < bytes.size()) {
-        if (!inside(bytes, at, 12)) return false;
+        const auto cut = [this] { return fail("The file ends inside a chunk."); };
+        if (!inside(bytes, at, 12)) return cut();
         const std::uint64_t length = be32(bytes, static_cast<std::size_t>(at));
-        if (!inside(bytes, at, length + 12)) return false;
+        if (!inside(bytes, at, length + 12)) return cut();
         const auto typeAt = static_cast<std::size_t>(at + 4);
         const std::span<const std::uint8_t> type = bytes.subspan(typeAt, 4);
         const std::span<const std::uint8_t> data =
@@ -51,15 +64,16 @@ bool cPNGparser::walkChunks(std::span<const std::uint8_t> bytes, ZlibLibrary* zl
             isType(type, "IHDR") || isType(type, "PLTE") || isType(type, "tRNS") || isType(type, "IDAT");
         if (!known) continue;
         // Only with zlib is there a CRC to check against.
+        const std::string name(type.begin(), type.end());
         if (zlib != nullptr &&
             zlib->crc32(0, bytes.subspan(typeAt, data.size() + 4)) != be32(bytes, typeAt + 4 + data.size()))
-            return false;
-        if (isType(type, "IHDR") && !readHeader(data)) return false;
-        if (isType(type, "PLTE") && !readPalette(data)) return false;
+            return fail("The checksum of the " + name + " chunk is wrong.");
+        if (isType(type, "IHDR") && !readHeader(data)) return fail("The image header (IHDR) is invalid.");
+        if (isType(type, "PLTE") && !readPalette(data)) return fail("The palette (PLTE) is invalid.");
         if (isType(type, "tRNS")) readTransparency(data);
         if (isType(type, "IDAT")) compressed_.insert(compressed_.end(), data.begin(), data.end());
     }
-    return haveHeader_;
+    return haveHeader_ || fail("The file has no image header (IHDR).");
 }
 
 bool cPNGparser::readHeader(std::span<const std::uint8_t> data) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "image/PngLayout.h"
@@ -20,8 +21,13 @@ public:
     // True if the run is a PNG, whether or not the picture could be loaded: once the signature
     // matched no other reader is asked. The surface holds the picture, or is empty.
     bool LoadStream(std::span<const std::uint8_t> bytes, c32bppDIB& surface);
+    // Why the last PNG could not be loaded, in words for the user; empty after a good load.
+    const std::string& Failure() const { return failure_; }
 
 private:
+    bool load(std::span<const std::uint8_t> bytes, c32bppDIB& surface);
+    // Notes why the load failed; false, for the caller to return.
+    bool fail(std::string why);
     bool walkChunks(std::span<const std::uint8_t> bytes, ZlibLibrary* zlib);
     bool readHeader(std::span<const std::uint8_t> data);
     bool readPalette(std::span<const std::uint8_t> data);
@@ -38,6 +44,7 @@ private:
     PngColours colours_;
     std::vector<std::uint8_t> compressed_;
     std::uint64_t unpackedSize_ = 0;
+    std::string failure_;
 };
 
 }  // namespace orvanta

@@ -8,6 +8,7 @@
 #include <QRadioButton>
 
 #include "controls/QtText.h"
+#include "editor/Mnemonics.h"
 
 namespace orvanta::testing {
 
@@ -24,7 +25,8 @@ std::string EditorFixture::text(const char* name) {
     if (auto* combo = qobject_cast<QComboBox*>(&control)) return fromQString(combo->currentText());
     if (auto* multi = qobject_cast<QPlainTextEdit*>(&control)) return fromQString(multi->toPlainText());
     if (auto* label = qobject_cast<QLabel*>(&control)) return fromQString(label->text());
-    if (auto* button = qobject_cast<QAbstractButton*>(&control)) return fromQString(button->text());
+    if (auto* button = qobject_cast<QAbstractButton*>(&control))
+        return fromQString(withoutMnemonic(button->text()));
     return {};
 }
 

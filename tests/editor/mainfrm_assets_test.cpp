@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "EditorFixture.h"
+#include "editor/mainfrmFields.h"
 #include "image/widget/aicAlphaImage.h"
 
 namespace orvanta::testing {
@@ -45,13 +46,38 @@ TEST_F(Assets, LogoIsAddedReplacedAndRemoved) {
     EXPECT_TRUE(get<aicAlphaImage>("logo2").image().Width() == 0);
 }
 
-TEST_F(Assets, UnreadableLogoEndsTheActionBeforeAnyCopy) {
-    sandbox.writeFile("pictures\\bad.png", "not a picture");
+// Only a damaged PNG is reported, in its reader's words; any other failure ends the action silently.
+TEST_F(Assets, UnreadableLogoEndsTheActionBeforeAnyCopyAndADamagedPngSaysWhy) {
+    sandbox.writeFile("pictures\\bad.png", std::string(100, 'x'));
     dialogs.answerNextOpenFile(sandbox.windowsPath("pictures\\bad.png"));
     window->Command15_Click();
+    EXPECT_TRUE(dialogs.messageBoxes.empty());
     EXPECT_FALSE(sandbox.exists(projectRelative("logo.png")));
     EXPECT_EQ(text("Command15"), "Add logo");
     EXPECT_FALSE(enabled("Command40"));
+
+    // A damaged PNG picked over a logo leaves the logo of the working set on show.
+    dialogs.answerNextOpenFile(writePicture(sandbox, "blue.png", Qt::blue));
+    window->Command15_Click();
+    const std::string logo = sandbox.readFile(projectRelative("logo.png"));
+    const std::string cut = writePicture(sandbox, "cut.png", Qt::red);
+    const std::string bytes = sandbox.readFile("pictures\\cut.png");
+    sandbox.writeFile("pictures\\cut.png", bytes.substr(0, bytes.size() - 20));
+    dialogs.answerNextOpenFile(cut);
+    window->Command15_Click();
+    EXPECT_EQ(sandbox.readFile(projectRelative("logo.png")), logo);
+    EXPECT_NE(get<aicAlphaImage>("logo").image().Width(), 0);
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
+    EXPECT_EQ(dialogs.messageBoxes[0].text,
+              "The picture " + cut + " could not be shown.\r\nThe file ends inside a chunk.");
+    EXPECT_EQ(dialogs.messageBoxes[0].icon, MessageIcon::Exclamation);
+
+    // The background that a project brings is reported the same way.
+    sandbox.writeFile(projectRelative("1.jpg"), bytes.substr(0, bytes.size() - 20));
+    mainfrmFields fields(*window);
+    EXPECT_FALSE(fields.loadPicture({"aicAlphaImage3"}, projectRoot() + "\\1.jpg"));
+    ASSERT_EQ(dialogs.messageBoxes.size(), 2u);
+    EXPECT_NE(dialogs.messageBoxes[1].text.find("1.jpg could not be shown"), std::string::npos);
 }
 
 TEST_F(Assets, AnyFileIsCopiedByItsNameAndRemoved) {
@@ -95,7 +121,7 @@ TEST_F(Assets, FullLicenceFileFollowsItsField) {
     EXPECT_FALSE(enabled("Command41"));
 }
 
-TEST_F(Assets, PreviewIsCopiedShownAndFetchedWhenItsPageIsShown) {
+TEST_F(Assets, PreviewIsCopiedShownAndShownAgainWhenTheProjectOpens) {
     dialogs.answerNextOpenFile(writePicture(sandbox, "green.png", Qt::green));
     window->Command26_Click();
     EXPECT_TRUE(sandbox.exists(projectRelative("preview.png")));
@@ -104,8 +130,8 @@ TEST_F(Assets, PreviewIsCopiedShownAndFetchedWhenItsPageIsShown) {
 
     auto other = std::make_unique<mainfrm>(context());
     other->findChild<QLineEdit*>(QStringLiteral("Text2"))->setText(QString::fromStdString(projectRoot()));
-    other->showPage(1);
     EXPECT_FALSE(other->noway[0]->isVisibleTo(other.get()));
+    EXPECT_TRUE(other->findChild<QPushButton*>(QStringLiteral("Command39"))->isEnabled());
     EXPECT_FALSE(other->findChild<aicAlphaImage*>(QStringLiteral("aicAlphaImage1"))->image().Width() == 0);
 
     window->Command39_Click();

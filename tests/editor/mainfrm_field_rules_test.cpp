@@ -134,6 +134,16 @@ TEST_F(FieldRules, MainExecutableSwitchRulesItsGroup) {
         EXPECT_TRUE(enabled(name)) << name;
 }
 
+// No file keeps them, so they take no typing that a reload would lose.
+TEST_F(FieldRules, UninstallerNameAndPublisherFollowTheNameAndAuthor) {
+    setText("Text9", "Acme");
+    EXPECT_EQ(text("Text13"), "Acme");
+    setText("Text1", "Demo Pro");
+    EXPECT_EQ(text("Text15"), "Demo Pro");
+    EXPECT_TRUE(get<QLineEdit>("Text13").isReadOnly());
+    EXPECT_TRUE(get<QLineEdit>("Text15").isReadOnly());
+}
+
 TEST_F(FieldRules, CheckedByDefaultBoxesCannotOutliveTheirOption) {
     check("Check28", true);
     EXPECT_TRUE(checked("Check2"));

@@ -106,7 +106,7 @@ TEST_F(Lists, AppDataLocationsJoinFolderWordAndTextWithoutChecks) {
     EXPECT_EQ(entries(get<QListWidget>("List4")), (std::vector<std::string>{"ROAMING\\", "ROAMING\\"}));
 }
 
-TEST_F(Lists, FontScanAddsNewFontFilesOnlyAndRemovesNothing) {
+TEST_F(Lists, FontScanAddsNewVisibleFontFilesOnlyAndRemovesNothing) {
     auto& list = get<QListWidget>("List2");
     dialogs.answerNextInput("Old.ttf");
     dialogs.answerNextInput("");
@@ -117,6 +117,9 @@ TEST_F(Lists, FontScanAddsNewFontFilesOnlyAndRemovesNothing) {
     for (const char* name : {"a.TTF", "b.otf", "c.fon", "d.fnt", "notes.txt", "e.ttf.bak"})
         sandbox.writeFile(projectRelative("fonts\\") + name, "x");
     sandbox.makeFolder(projectRelative("fonts\\sub.ttf"));
+    // The button scans as the saver does: a hidden file is not seen.
+    sandbox.writeFile(projectRelative("fonts\\hidden.ttf"), "x");
+    sandbox.host().setFileAttributes(projectRoot() + "\\fonts\\hidden.ttf", kAttributeHidden);
     window->Command32_Click();
     std::vector<std::string> found = entries(list);
     ASSERT_EQ(found.size(), 5u);

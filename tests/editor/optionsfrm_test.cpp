@@ -12,56 +12,45 @@
 namespace orvanta {
 namespace {
 
-class Options : public ::testing::Test {
-protected:
-    static constexpr const char* kSettings = "HKCU\\Software\\Orvanta\\Settings";
+constexpr const char* kSettings = "HKCU\\Software\\Orvanta\\Settings";
 
-    void SetUp() override {
-        vars::reset();
-        vars::settingsRootKey = "HKCU\\Software\\Orvanta";
-    }
-    void TearDown() override { vars::reset(); }
+QCheckBox& Check3(optionsfrm& window) {
+    return *window.findChild<QCheckBox*>("Check3");
+}
 
-    std::int32_t saveAlways() {
-        return RegistryAPI(box.host()).readSettingNumber(kSettings, "saveAlways", -7);
-    }
-    QCheckBox& Check3(optionsfrm& window) { return *window.findChild<QCheckBox*>("Check3"); }
-
+// The one preference of the window is shown, stored at each click and read by the next window;
+// without the settings key the box shows the default and nothing can be stored.
+TEST(Options, SaveAlwaysIsShownStoredAtOnceAndNeedsItsKey) {
+    vars::reset();
+    vars::settingsRootKey = "HKCU\\Software\\Orvanta";
     testing::Sandbox box;
-};
+    const auto saveAlways = [&box] {
+        return RegistryAPI(box.host()).readSettingNumber(kSettings, "saveAlways", -7);
+    };
 
-TEST_F(Options, ShowsSaveAlwaysAndStoresEachClickAtOnce) {
+    optionsfrm keyless(box.host());
+    EXPECT_FALSE(Check3(keyless).isChecked());
+    Check3(keyless).click();
+    EXPECT_EQ(saveAlways(), -7);
+
     RegistryAPI(box.host()).createRegistryKey(kSettings);
     RegistryAPI(box.host()).writeSettingNumber(kSettings, "saveAlways", 1);
     optionsfrm window(box.host());
     EXPECT_EQ(window.windowTitle(), "Options");
     EXPECT_EQ(window.findChild<QGroupBox*>("Frame1")->title(), "General settings");
-    EXPECT_EQ(Check3(window).text(), "Always ask before saving the project");
     EXPECT_TRUE(Check3(window).isChecked());
-
     Check3(window).click();
     EXPECT_EQ(saveAlways(), 0);
     Check3(window).click();
     EXPECT_EQ(saveAlways(), 1);
-
-    // Another window reads what the first stored.
     Check3(window).click();
     optionsfrm again(box.host());
     EXPECT_FALSE(Check3(again).isChecked());
-}
 
-TEST_F(Options, WithoutTheSettingsKeyTheBoxShowsTheDefaultAndStoresNothing) {
-    optionsfrm window(box.host());
-    EXPECT_FALSE(Check3(window).isChecked());
-    Check3(window).click();
-    EXPECT_EQ(saveAlways(), -7);
-}
-
-TEST_F(Options, CloseUnloadsTheWindow) {
-    optionsfrm window(box.host());
     window.show();
     window.findChild<QPushButton*>("Command1")->click();
     EXPECT_FALSE(window.isVisible());
+    vars::reset();
 }
 
 }  // namespace
