@@ -11,11 +11,11 @@
 
 #include "core/Dialogs.h"
 #include "platform/Host.h"
+#include "project/window/ElidedLabel.h"
 
 namespace Ui {
 class start;
 }
-class QLabel;
 class QLineEdit;
 
 namespace orvanta {
@@ -31,7 +31,9 @@ public:
     ~start() override;
 
     Ui::start& ui() { return *ui_; }
-    QLabel* loading() const;
+    ElidedLabel* loading() const;
+    // The status line: the whole text, shortened to the window's width with the rest in its tip.
+    void showStatus(const QString& text);
     const std::string& sourceFolder() const { return sourceFolder_; }
 
     // The window's events, public so that the program and tests reach them as the user does.
@@ -58,6 +60,8 @@ protected:
 
 private:
     void listProjects();
+    // Fills the new project's "\files" from the chosen folder, with the progress over `editor`.
+    void copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
     std::string selectedProject() const;
     void setUpTips();
     void advancedFieldEdited(QLineEdit* field, const QString& word, const QString& placeholder);
