@@ -248,6 +248,9 @@ void UserDay::inEditionsWindow(const std::function<void(editionsfrm&)>& work) {
         opened = true;
         work(*window);
         window->Command4->click();
+        if (!window->isVisible()) return;
+        ADD_FAILURE() << "the editions window does not close";
+        window->reject();
     });
     clickInEditor("Command49");
     EXPECT_TRUE(opened) << "the editions window did not open";
