@@ -74,9 +74,10 @@ std::string tooLongNameText(const std::string& workspaceFolder, const std::strin
     std::size_t fits = name.size();
     while (fits > 0 && longestProjectPath(workspaceFolder, name.substr(0, fits)) > kLongestWindowsPath)
         --fits;
-    return "This name is too long: the project's longest path would have " +
+    return "This name is too long: use at most " + std::to_string(fits) +
+           " characters. With it the project's longest path would have " +
            std::to_string(longestProjectPath(workspaceFolder, name)) + " characters, and Windows allows " +
-           std::to_string(kLongestWindowsPath) + ". Use at most " + std::to_string(fits) + " characters.";
+           std::to_string(kLongestWindowsPath) + ".";
 }
 
 std::string folderFailureText(const FolderFailure& failure) {

@@ -72,10 +72,10 @@ TEST_F(ProjectIndex, TheLongestPathCountsTheDeepestWorkingSetAndTheTemporaryName
     const std::string text = tooLongNameText(workspace, name);
     std::size_t fits = 0;
     while (longestProjectPath(workspace, std::string(fits + 1, 'n')) <= kLongestWindowsPath) ++fits;
-    EXPECT_EQ(text, "This name is too long: the project's longest path would have " +
+    EXPECT_EQ(text, "This name is too long: use at most " + std::to_string(fits) +
+                        " characters. With it the project's longest path would have " +
                         std::to_string(longestProjectPath(workspace, name)) +
-                        " characters, and Windows allows 259. Use at most " + std::to_string(fits) +
-                        " characters.");
+                        " characters, and Windows allows 259.");
 }
 
 // The user's day runs it for real.

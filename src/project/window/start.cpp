@@ -58,6 +58,7 @@ start::start(Host& host, Dialogs& dialogs, std::function<ProjectEditor&()> edito
     name_ = new PlaceholderText(ui_->Text1, kNamePlaceholder);
     author_ = new PlaceholderText(ui_->Text3, kAuthorPlaceholder);
     source_ = new PlaceholderText(ui_->Text2, kSourcePlaceholder);
+    ui_->Text2->setCursorPosition(0);  // the start of a long placeholder or path says the most
     connect(ui_->Text1, &QLineEdit::textChanged, this, &start::Text1_Change);
     connect(ui_->Text3, &QLineEdit::textChanged, this, [this] {
         if (!author_->showsPlaceholder()) PlaceholderText::setPlaceholderLook(ui_->Text3, false);
@@ -142,26 +143,26 @@ void start::Combo1_Click() {
 void start::Text1_Change() {
     const std::string text = fromQString(ui_->Text1->text());
     if (!name_->showsPlaceholder()) PlaceholderText::setPlaceholderLook(ui_->Text1, false);
-    switch (checkProjectName(host_, vars::workspaceFolder, text, fromQString(kNamePlaceholder))) {
-        case ProjectNameCheck::Empty:
-            return;
-        case ProjectNameCheck::Acceptable:
-            ui_->Command1->setEnabled(true);
-            ui_->Command3->setEnabled(true);
-            showStatus({});
-            return;
+    const ProjectNameCheck check =
+        checkProjectName(host_, vars::workspaceFolder, text, fromQString(kNamePlaceholder));
+    nameVerdict_ = toQString(nameVerdict(check, text));
+    showStatus(nameVerdict_);
+    if (check == ProjectNameCheck::Empty) return;
+    ui_->Command1->setEnabled(check == ProjectNameCheck::Acceptable);
+    ui_->Command3->setEnabled(check == ProjectNameCheck::Acceptable);
+}
+
+std::string start::nameVerdict(ProjectNameCheck check, const std::string& name) const {
+    switch (check) {
         case ProjectNameCheck::Taken:
-            showStatus(QStringLiteral("A project with this name already exists!"));
-            break;
+            return "A project with this name already exists!";
         case ProjectNameCheck::Unusable:
-            showStatus(toQString(unusableNameText(text)));
-            break;
+            return unusableNameText(name);
         case ProjectNameCheck::TooLong:
-            showStatus(toQString(tooLongNameText(vars::workspaceFolder, text)));
-            break;
+            return tooLongNameText(vars::workspaceFolder, name);
+        default:
+            return {};
     }
-    ui_->Command1->setEnabled(false);
-    ui_->Command3->setEnabled(false);
 }
 
 void start::Command1_Click() {
@@ -332,8 +333,9 @@ bool start::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+// Over the background the tips go; what the typed name is told stays until the name changes.
 void start::mouseMoveEvent(QMouseEvent* event) {
-    showStatus({});
+    showStatus(nameVerdict_);
     QWidget::mouseMoveEvent(event);
 }
 

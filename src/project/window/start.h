@@ -11,6 +11,7 @@
 
 #include "core/Dialogs.h"
 #include "platform/Host.h"
+#include "project/ProjectIndex.h"
 #include "project/window/ElidedLabel.h"
 
 namespace Ui {
@@ -60,6 +61,7 @@ protected:
 
 private:
     void listProjects();
+    std::string nameVerdict(ProjectNameCheck check, const std::string& name) const;
     // Fills the new project's "\files" from the chosen folder, with the progress over `editor`.
     void copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
     std::string selectedProject() const;
@@ -76,6 +78,8 @@ private:
     PlaceholderText* edition_ = nullptr;
     PlaceholderText* version_ = nullptr;
     std::string sourceFolder_;
+    // What the typed name is told, shown again whenever a tip gives the status line back.
+    QString nameVerdict_;
     std::map<QObject*, QString> tips_;
 };
 
