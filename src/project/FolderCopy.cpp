@@ -16,9 +16,14 @@ std::string below(const std::string& base, const std::string& path) {
 
 FolderCopyOutcome copyFolderContents(Host& host, const std::string& source, const std::string& target,
                                      const FolderCopyProgress& progress) {
+    FolderCopyOutcome outcome;
+    const auto attributes = host.fileAttributes(source);
+    if (!attributes || (*attributes & kAttributeDirectory) == 0) {
+        outcome.sourceMissing = true;
+        return outcome;
+    }
     const FolderTree tree = walkFolderTree(host, source);
     const std::string base = normalizePath(source);
-    FolderCopyOutcome outcome;
     outcome.total = tree.files.size();
     // Parents come before their children in the walk, so each folder's parent exists already.
     for (const std::string& folder : tree.folders) {
@@ -42,8 +47,12 @@ FolderCopyOutcome copyFolderContents(Host& host, const std::string& source, cons
     return outcome;
 }
 
-std::string folderCopyReport(const FolderCopyOutcome& outcome, const std::string& target) {
+std::string folderCopyReport(const FolderCopyOutcome& outcome, const std::string& source,
+                             const std::string& target) {
     constexpr std::size_t kNamesShown = 10;
+    if (outcome.sourceMissing)
+        return "The folder\n" + source + "\nwas not found, so no files were copied. The project is saved " +
+               "without them; copy them into\n" + target + "\nand save again.";
     std::string report;
     if (outcome.cancelled)
         report = "The copy was cancelled. " + std::to_string(outcome.copied) + " of " +
@@ -51,7 +60,7 @@ std::string folderCopyReport(const FolderCopyOutcome& outcome, const std::string
                  "\nThe project is saved with them; copy the others into that folder and save again.";
     if (!outcome.failedFiles.empty()) {
         if (!report.empty()) report += "\n\n";
-        report += std::to_string(outcome.failedFiles.size()) + " files could not be copied into\n" + target;
+        report += "These files could not be copied into\n" + target;
         for (std::size_t i = 0; i < outcome.failedFiles.size() && i < kNamesShown; ++i)
             report += "\n" + outcome.failedFiles[i];
         if (outcome.failedFiles.size() > kNamesShown)

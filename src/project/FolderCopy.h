@@ -16,7 +16,8 @@ struct FolderCopyOutcome {
     std::size_t copied = 0;                // of those, copied
     std::vector<std::string> failedFiles;  // below the source, as "lib\x.dll"
     bool cancelled = false;
-    bool complete() const { return !cancelled && failedFiles.empty(); }
+    bool sourceMissing = false;  // no folder of that name: nothing was copied
+    bool complete() const { return !cancelled && !sourceMissing && failedFiles.empty(); }
 };
 
 // Told before each file and once at the end; false stops the copy before the next file.
@@ -29,6 +30,7 @@ FolderCopyOutcome copyFolderContents(Host& host, const std::string& source, cons
 
 // What the user is told of a copy that did not take everything: how far it came, which files
 // failed (the first few), and where the copied files are. Empty for a complete copy.
-std::string folderCopyReport(const FolderCopyOutcome& outcome, const std::string& target);
+std::string folderCopyReport(const FolderCopyOutcome& outcome, const std::string& source,
+                             const std::string& target);
 
 }  // namespace orvanta

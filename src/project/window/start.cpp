@@ -216,8 +216,8 @@ void start::copyApplicationFiles(QWidget& editor, const std::string& projectRoot
         });
     progress.hide();
     if (!outcome.complete())
-        dialogs_.messageBox(
-            {folderCopyReport(outcome, target), MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
+        dialogs_.messageBox({folderCopyReport(outcome, sourceFolder_, target), MessageButtons::Ok,
+                             MessageIcon::Exclamation, "Orvanta"});
 }
 
 void start::Command3_Click() {
