@@ -43,16 +43,19 @@ protected:
 
 TEST_F(ProjectDay, ANewAccountsFirstProjectIsSavedOnceItsFilesAreCopied) {
     ASSERT_EQ(startProgram(), MainOutcome::StartShown);
+    letEventsRun();
     EXPECT_TRUE(dialogs.messageBoxes.empty() && dialogs.taskDialogs.empty());
     EXPECT_EQ(in<QComboBox>(index(), "Combo1").count(), 0);
-    // A name whose project would hold paths longer than Windows allows is refused as it is typed;
-    // the long status is shortened, whole in its tip, and the window keeps its width.
+    // A long status text is shortened, whole in its tip, and the window keeps its width.
     const int width = index().width();
+    typeInto(in<QLineEdit>(index(), "Text1"), std::string(150, 'n') + "?");
+    letEventsRun();
+    EXPECT_EQ(index().loading()->toolTip().toStdString(), status());
+    EXPECT_EQ(index().width(), width);
+    // A name whose project would hold paths longer than Windows allows is refused as it is typed.
     typeInto(in<QLineEdit>(index(), "Text1"), std::string(150, 'n'));
     EXPECT_EQ(status().rfind("This name is too long", 0), 0u) << status();
-    EXPECT_EQ(index().loading()->toolTip().toStdString(), status());
     EXPECT_FALSE(in<QPushButton>(index(), "Command1").isEnabled());
-    EXPECT_EQ(index().width(), width);
 
     const CopyWatch copy = createProject();
     EXPECT_TRUE(copy.editorShownFirst);
@@ -211,13 +214,17 @@ TEST_F(ProjectDay, ReopenedFromTheListAndFromTheCommandLineEveryFieldIsBack) {
 }
 
 TEST_F(ProjectDay, AFailedOpenSaysWhyAndLeavesTheIndexUsable) {
+    startProgram();
+    letEventsRun();
+    const int width = index().width();
     // A folder copied by hand without its settings, under a name longer than the window is wide.
     const std::string broken(120, 'B');
     const std::string folder = "Documents\\Orvanta\\myinstallers\\" + broken;
     box.writeFile(folder + "\\" + broken + ".ovproj",
                   crlf({broken, "No Editions", "No Versions", "deployLocal", "f"}));
     startProgram();
-    const int width = index().width();
+    letEventsRun();
+    EXPECT_EQ(index().width(), width);
     chooseProject(broken);
     in<QPushButton>(index(), "Command4").click();
 
@@ -230,7 +237,6 @@ TEST_F(ProjectDay, AFailedOpenSaysWhyAndLeavesTheIndexUsable) {
     EXPECT_EQ(windows->editorWindow(), nullptr);
     EXPECT_TRUE(index().isVisible());
     EXPECT_TRUE(index().isEnabled());
-    EXPECT_EQ(index().width(), width);
     EXPECT_FALSE(box.exists(folder + "\\mainsettings.cfg"));
 
     // Given on the command line, the same marker leaves the user at the index, not nowhere.
