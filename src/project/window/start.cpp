@@ -190,15 +190,19 @@ void start::Command1_Click() {
     editor.showBackground(background);
     QWidget& editorWindow = editor.showNewProject();
     hide();
-    // The first save lists "\files", so it waits for the copy.
-    if (!source_->showsPlaceholder()) copyApplicationFiles(editorWindow, root);
+    // The first save lists "\files", so it waits for the copy; what the copy missed is told after
+    // the save, of which the report speaks.
+    const std::string missed =
+        source_->showsPlaceholder() ? std::string() : copyApplicationFiles(editorWindow, root);
     editor.saveNewProject();
+    if (!missed.empty())
+        dialogs_.messageBox({missed, MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
     emit unloaded();
 }
 
 // Copied here file by file rather than by an xcopy batch file: only so can the files be counted,
 // the bar moved, the copy stopped between two files, and the save be sure the copy has ended.
-void start::copyApplicationFiles(QWidget& editor, const std::string& projectRoot) {
+std::string start::copyApplicationFiles(QWidget& editor, const std::string& projectRoot) {
     CopyProgress progress(dialogs_, &editor);
     progress.show();
     host_.processPendingMessages();
@@ -215,9 +219,7 @@ void start::copyApplicationFiles(QWidget& editor, const std::string& projectRoot
             return !progress.cancelled();
         });
     progress.hide();
-    if (!outcome.complete())
-        dialogs_.messageBox({folderCopyReport(outcome, sourceFolder_, target), MessageButtons::Ok,
-                             MessageIcon::Exclamation, "Orvanta"});
+    return folderCopyReport(outcome, sourceFolder_, target);
 }
 
 void start::Command3_Click() {

@@ -62,8 +62,9 @@ protected:
 private:
     void listProjects();
     std::string nameVerdict(ProjectNameCheck check, const std::string& name) const;
-    // Fills the new project's "\files" from the chosen folder, with the progress over `editor`.
-    void copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
+    // Fills the new project's "\files" from the chosen folder, with the progress over `editor`;
+    // what the user is to hear of files it did not copy, or nothing.
+    std::string copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
     std::string selectedProject() const;
     void setUpTips();
     void advancedFieldEdited(QLineEdit* field, const QString& word, const QString& placeholder);
