@@ -71,7 +71,8 @@ std::size_t longestProjectPath(const std::string& workspaceFolder, const std::st
 }
 
 std::string tooLongNameText(const std::string& workspaceFolder, const std::string& name) {
-    std::size_t fits = name.size();
+    // No name longer than the limit itself fits, so a pasted page of text is not tried letter by letter.
+    std::size_t fits = std::min(name.size(), kLongestWindowsPath);
     while (fits > 0 && longestProjectPath(workspaceFolder, name.substr(0, fits)) > kLongestWindowsPath)
         --fits;
     return "This name is too long: use at most " + std::to_string(fits) +
