@@ -6,27 +6,29 @@
 namespace orvanta {
 namespace {
 
-TEST(FolderCopy, CopiesNestedAndEmptyFoldersAndNamesTheFilesThatFailed) {
+TEST(FolderCopy, CopiesNestedEmptyAndHiddenEntriesAndNamesTheFilesThatFailed) {
     testing::Sandbox box;
     box.writeFile("source\\app.exe", "MZ");
     box.writeFile("source\\data\\deep\\table.dat", "rows");
     box.writeFile("source\\data\\blocked.dat", "x");
     box.makeFolder("source\\empty");
+    box.writeFile("source\\.hidden", "h");
     // A folder where a file must go cannot be overwritten.
     box.makeFolder("target\\data\\blocked.dat");
     std::vector<std::size_t> told;
     const FolderCopyOutcome outcome =
         copyFolderContents(box.host(), box.windowsPath("source"), box.windowsPath("target"),
                            [&](std::size_t done, std::size_t total) {
-                               EXPECT_EQ(total, 3u);
+                               EXPECT_EQ(total, 4u);
                                told.push_back(done);
                                return true;
                            });
-    EXPECT_EQ(told, (std::vector<std::size_t>{0, 1, 2, 3}));
-    EXPECT_EQ(outcome.copied, 2u);
+    EXPECT_EQ(told, (std::vector<std::size_t>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(outcome.copied, 3u);
     EXPECT_EQ(outcome.failedFiles, std::vector<std::string>{"data\\blocked.dat"});
     EXPECT_EQ(box.readFile("target\\data\\deep\\table.dat"), "rows");
     EXPECT_TRUE(box.exists("target\\empty"));
+    EXPECT_EQ(box.readFile("target\\.hidden"), "h");
     EXPECT_EQ(folderCopyReport(outcome, "S", "T"),
               "These files could not be copied into\nT\ndata\\blocked.dat");
 
