@@ -35,7 +35,11 @@ mainfrm* ApplicationWindows::editorWindow() const {
 }
 
 MainHandOver ApplicationWindows::handOver() {
-    return {[this] { showStart(); }, [this](const std::string& folder) { openProject(folder); }};
+    // A marker whose project cannot be loaded leaves the user at the index rather than nowhere.
+    return {[this] { showStart(); },
+            [this](const std::string& folder) {
+                if (!openProject(folder)) showStart();
+            }};
 }
 
 bool ApplicationWindows::anyVisible() const {
@@ -90,16 +94,22 @@ EditorContext ApplicationWindows::editorContext() {
 }
 
 void ApplicationWindows::showStatusOnStart(const std::string& text) {
-    if (start_ != nullptr) start_->loading()->setText(toQString(text));
+    if (start_ != nullptr) start_->showStatus(toQString(text));
 }
 
 void ApplicationWindows::beginNewProject(const std::string& name, const std::string& author,
                                          const std::string& projectRoot) {
-    ensureEditor();
+    mainfrm& editor = ensureEditor();
     fields_->setText(ctrl::appName, name);
-    fields_->setCaption(ctrl::mainfrm, "Orvanta ~ " + name);
+    showProjectCaption();
     if (!author.empty()) fields_->setText(ctrl::appAuthor, author);
     fields_->setText(ctrl::workingFolder, projectRoot);
+    // The window's load filled the defaults that carry the name before there was one.
+    editor.appname_updater();
+}
+
+void ApplicationWindows::showProjectCaption() {
+    fields_->setCaption(ctrl::mainfrm, "Orvanta ~ " + fields_->text(ctrl::appName));
 }
 
 void ApplicationWindows::showLogo(const std::string& logoPath) {
@@ -113,19 +123,25 @@ void ApplicationWindows::showBackground(const std::string& backgroundPath) {
     fields_->loadPicture(ctrl::aicAlphaImage3, backgroundPath);
 }
 
-void ApplicationWindows::showAndSave() {
-    ensureEditor().show();
+QWidget& ApplicationWindows::showNewProject() {
+    mainfrm& editor = ensureEditor();
+    editor.show();
+    return editor;
+}
+
+void ApplicationWindows::saveNewProject() {
     EditorContext saving = editorContext();
     project_saver(saving);
 }
 
-// A failed load has told the user why; the editor goes and the index stays as it is, disabled.
+// A failed load has told the user why; the editor goes, and the caller makes the index usable.
 bool ApplicationWindows::openProject(const std::string& projectRoot) {
     EditorContext loading = editorContext();
     if (loadProject(loading, projectRoot) != LoadOutcome::Loaded) {
         unloadEditor();
         return false;
     }
+    showProjectCaption();
     editor_->show();
     editor_->setEnabled(true);
     if (start_ != nullptr) {
@@ -156,12 +172,14 @@ void ApplicationWindows::showEditions() {
                                     fields_->text(ctrl::appName), fields_->text(ctrl::fullLicenseFile),
                                     fields_->text(ctrl::resumedLicenseText), fields_->text(ctrl::anyFile)};
         },
-        [this](std::string edition, std::string version) {
-            EditorContext switching = editorContext();
-            changes_edition(switching, edition, version);
-        }};
+        [this](std::string edition, std::string version) { switchWorkingSet(edition, version); }};
     editionsfrm window(host_, dialogs_, std::move(context), &editor);
     window.exec();
+}
+
+void ApplicationWindows::switchWorkingSet(std::string edition, std::string version) {
+    EditorContext switching = editorContext();
+    if (changes_edition(switching, edition, version) == LoadOutcome::Loaded) showProjectCaption();
 }
 
 }  // namespace orvanta

@@ -34,7 +34,8 @@ public:
                          const std::string& projectRoot) override;
     void showLogo(const std::string& logoPath) override;
     void showBackground(const std::string& backgroundPath) override;
-    void showAndSave() override;
+    QWidget& showNewProject() override;
+    void saveNewProject() override;
     bool openProject(const std::string& projectRoot) override;
 
 private:
@@ -47,6 +48,9 @@ private:
     void showPackages();
     void showEditions();
     void showStatusOnStart(const std::string& text);
+    void switchWorkingSet(std::string edition, std::string version);
+    // The caption names the project, whether it was made, opened or switched to another working set.
+    void showProjectCaption();
 
     Host& host_;
     Dialogs& dialogs_;

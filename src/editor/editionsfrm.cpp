@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "controls/QtText.h"
+#include "project/ProjectIndex.h"
 #include "project/ProjectPaths.h"
 
 namespace orvanta {
@@ -46,9 +47,10 @@ void editionsfrm::buildLayout() {
     List1 = new QListWidget;
     Label2 = new QLabel;
     Text1 = new QLineEdit;
-    Text1->setMaxLength(64);
+    // The project's name was checked against the longest path with room for names this long.
+    Text1->setMaxLength(static_cast<int>(kLongestEditionName));
     Text2 = new QLineEdit;
-    Text2->setMaxLength(32);
+    Text2->setMaxLength(static_cast<int>(kLongestVersionName));
     Text2->setPlaceholderText(toQString(std::string(kNoVersions)));
     Command1 = new QPushButton(QStringLiteral("Create"));
     Command2 = new QPushButton(QStringLiteral("Delete"));
@@ -129,8 +131,7 @@ void editionsfrm::Command1_Click() {
     }
     if (!creation.copies.complete()) {
         std::string names;
-        for (const auto& list : {creation.copies.missingSources, creation.copies.failedCopies})
-            for (const std::string& name : list) names += "\n" + name;
+        for (const std::string& name : creation.copies.failedCopies) names += "\n" + name;
         dialogs_.messageBox(
             {"These files of the project could not be copied into the new working set:" + names,
              MessageButtons::Ok, MessageIcon::Exclamation, kTitle});

@@ -13,6 +13,7 @@ std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& 
                                            std::string& version) {
     project_saver(context);
     context.fields.processPendingEvents();
+    const std::string before = context.fields.text(ctrl::workingFolder);
     const std::string root = projectRoot(vars::workspaceFolder, context.fields.text(ctrl::appName));
     const auto choice = chooseWorkingSet(root, edition, version, [&context](const std::string& folder) {
         return folderExists(context.host, folder) == kTrue;
@@ -20,6 +21,14 @@ std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& 
     version = choice.version;
     std::optional<LoadOutcome> outcome;
     if (choice.folder) outcome = loadProject(context, *choice.folder);
+    if (outcome && *outcome != LoadOutcome::Loaded) {
+        // The loader failed before it read a value: the window still holds the working set it
+        // came from, so it goes back to it, usable, and a later save writes there.
+        context.fields.setText(ctrl::workingFolder, before);
+        context.fields.showStatus(StatusLabel::ControlTips, "");
+        context.fields.setEnabled(ctrl::mainfrm, true);
+        return outcome;
+    }
     // The loader reads over the file's edition line, so the name comes from here alone.
     context.fields.setText(ctrl::editionName, choice.editionName);
     return outcome;

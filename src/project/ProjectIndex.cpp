@@ -51,6 +51,7 @@ ProjectNameCheck checkProjectName(Host& host, const std::string& workspaceFolder
                                   const std::string& placeholder) {
     if (text.empty() || text == placeholder) return ProjectNameCheck::Empty;
     if (!isUsableFolderName(text)) return ProjectNameCheck::Unusable;
+    if (longestProjectPath(workspaceFolder, text) > kLongestWindowsPath) return ProjectNameCheck::TooLong;
     const auto attributes = host.fileAttributes(projectRoot(workspaceFolder, text));
     return attributes.has_value() ? ProjectNameCheck::Taken : ProjectNameCheck::Acceptable;
 }
@@ -59,10 +60,60 @@ std::string unusableNameText(const std::string& name) {
     return "\"" + name + "\" can't be a project name: " + kFolderNameRule;
 }
 
-std::optional<std::string> createProjectTree(Host& host, const std::string& workspaceFolder,
-                                             const std::string& name) {
+std::size_t longestProjectPath(const std::string& workspaceFolder, const std::string& name) {
+    const std::string workingSet = "\\" + std::string(projectfolder::kVersions) + "\\" +
+                                   std::string(kLongestVersionName, 'v') + "\\" +
+                                   std::string(kLongestEditionName, 'e');
+    const std::size_t deepestFile =
+        std::max(markerName(name).size(), std::string_view("settingsset\\settings.cfg").size());
+    constexpr std::size_t kTemporarySuffix = std::string_view(".~ovtmp-XXXXXX").size();
+    return projectRoot(workspaceFolder, name).size() + workingSet.size() + 1 + deepestFile + kTemporarySuffix;
+}
+
+std::string tooLongNameText(const std::string& workspaceFolder, const std::string& name) {
+    // No name longer than the limit itself fits, so a pasted page of text is not tried letter by letter.
+    std::size_t fits = std::min(name.size(), kLongestWindowsPath);
+    while (fits > 0 && longestProjectPath(workspaceFolder, name.substr(0, fits)) > kLongestWindowsPath)
+        --fits;
+    return "This name is too long: use at most " + std::to_string(fits) +
+           " characters. With it the project's longest path would have " +
+           std::to_string(longestProjectPath(workspaceFolder, name)) + " characters, and Windows allows " +
+           std::to_string(kLongestWindowsPath) + ".";
+}
+
+std::string folderFailureText(const FolderFailure& failure) {
+    return "The folder\n" + failure.folder + "\ncould not be created: " + failure.reason;
+}
+
+namespace {
+
+std::string parentOf(const std::string& folder) {
+    const std::size_t cut = folder.rfind('\\');
+    return cut == std::string::npos ? std::string() : folder.substr(0, cut);
+}
+
+// The workspace and those of its parents that are missing, outermost first; a drive is never made.
+std::vector<std::string> missingWorkspaceFolders(Host& host, const std::string& workspaceFolder) {
+    std::vector<std::string> missing;
+    for (std::string folder = workspaceFolder; folder.size() > 3 && !host.fileAttributes(folder);
+         folder = parentOf(folder))
+        missing.insert(missing.begin(), folder);
+    return missing;
+}
+
+std::string whyNotCreated(Host& host, const std::string& folder) {
+    if (host.fileAttributes(folder)) return "a file of that name is in the way.";
+    return "the system refused it. Check that you may write to \"" + parentOf(folder) +
+           "\" and that its drive is neither full nor read-only.";
+}
+
+}  // namespace
+
+std::optional<FolderFailure> createProjectTree(Host& host, const std::string& workspaceFolder,
+                                               const std::string& name) {
     const std::string root = projectRoot(workspaceFolder, name);
-    std::vector<std::string> folders{workspaceFolder, myInstallersFolder(workspaceFolder), root};
+    std::vector<std::string> folders = missingWorkspaceFolders(host, workspaceFolder);
+    folders.insert(folders.end(), {workspaceFolder, myInstallersFolder(workspaceFolder), root});
     for (std::string_view below :
          {projectfolder::kFiles, projectfolder::kExecutables, projectfolder::kFonts, projectfolder::kPackages,
           projectfolder::kSettingsSet, projectfolder::kMsi})
@@ -70,15 +121,9 @@ std::optional<std::string> createProjectTree(Host& host, const std::string& work
     for (const std::string& folder : folders) {
         const std::optional<std::uint32_t> attributes = host.fileAttributes(folder);
         if (attributes.has_value() ? (*attributes & kAttributeDirectory) == 0 : !host.createFolder(folder))
-            return folder;
+            return FolderFailure{folder, whyNotCreated(host, folder)};
     }
     return std::nullopt;
-}
-
-std::string copyFilesBatchText(const std::string& workspaceFolder, const std::string& sourceFolder,
-                               const std::string& name) {
-    return "xcopy /s /d \"" + sourceFolder + "\" \"" + inFolder(projectRoot(workspaceFolder, name), "files") +
-           "\" /e /h /y\r\n" + "del " + copyFilesBatch(workspaceFolder) + "\r\n";
 }
 
 std::string deleteProjectBatchText(const std::string& workspaceFolder, const std::string& name) {

@@ -22,6 +22,7 @@ enum class ProjectNameCheck {
     Acceptable,  // no project of that name yet
     Taken,       // a folder of that name exists
     Unusable,    // no folder can have that name
+    TooLong,     // the project's longest path would pass what Windows allows
 };
 ProjectNameCheck checkProjectName(Host& host, const std::string& workspaceFolder, const std::string& text,
                                   const std::string& placeholder);
@@ -31,14 +32,34 @@ inline constexpr const char* kFolderNameRule =
 // The status text for a name that no folder may hold.
 std::string unusableNameText(const std::string& name);
 
-// The workspace, "\myinstallers", the project root and its six folders, each made if missing.
-// The folder that could not be made, or nothing.
-std::optional<std::string> createProjectTree(Host& host, const std::string& workspaceFolder,
-                                             const std::string& name);
+// The longest path a Windows program may use: MAX_PATH less its closing NUL.
+inline constexpr std::size_t kLongestWindowsPath = 259;
+// What a project keeps room for, so that every working set the editions window can make fits:
+// it takes editions and versions names up to these lengths.
+inline constexpr std::size_t kLongestEditionName = 32;
+inline constexpr std::size_t kLongestVersionName = 16;
+// The longest path the program itself writes in the project of that name: the marker's temporary
+// twin in the working set of a version's edition with the longest names allowed. What the user puts
+// into "\files" is the user's own and not counted.
+std::size_t longestProjectPath(const std::string& workspaceFolder, const std::string& name);
+// The status text for a name whose project would hold paths Windows cannot open.
+std::string tooLongNameText(const std::string& workspaceFolder, const std::string& name);
 
-// The two lines of "copyfiles.bat" and of "deleteproject.bat", CR LF after each.
-std::string copyFilesBatchText(const std::string& workspaceFolder, const std::string& sourceFolder,
-                               const std::string& name);
+// The folder that could not be made and why, in a sentence.
+struct FolderFailure {
+    std::string folder;
+    std::string reason;
+    bool operator==(const FolderFailure&) const = default;
+};
+// The text that tells the user: the path on a line of its own.
+std::string folderFailureText(const FolderFailure& failure);
+
+// The workspace with any missing parent (a new account may have no documents folder yet),
+// "\myinstallers", the project root and its six folders, each made if missing.
+std::optional<FolderFailure> createProjectTree(Host& host, const std::string& workspaceFolder,
+                                               const std::string& name);
+
+// The two lines of "deleteproject.bat", CR LF after each.
 std::string deleteProjectBatchText(const std::string& workspaceFolder, const std::string& name);
 
 // The first two lines of a project's "mainsettings.cfg": its name and author. Nothing if the file

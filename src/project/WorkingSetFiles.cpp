@@ -22,14 +22,8 @@ public:
 
     void copy(const std::string& name) {
         const std::string from = inFolder(root_, name);
-        if (!host_.fileLength(from)) {
-            report_.missingSources.push_back(name);
-        } else if (!host_.copyFile(from, inFolder(target_, name))) {
+        if (host_.fileLength(from) && !host_.copyFile(from, inFolder(target_, name)))
             report_.failedCopies.push_back(name);
-        }
-    }
-    void copyIfPresent(const std::string& name) {
-        if (host_.fileLength(inFolder(root_, name))) copy(name);
     }
     void createOwnFolders() {
         for (const auto folder : kOwnFolders) {
@@ -73,8 +67,8 @@ CopyReport edver_file_copier(Host& host, const std::string& subPath, const Worki
         copier.copy(std::string(name));
     copier.copy(markerName(source.appName));
     for (const auto name : {kFiles, kFolders, kFonts, kIntro}) copier.copy(std::string(name));
-    copier.copyIfPresent(std::string(kLogo));
-    copier.copyIfPresent(std::string(kPreview));
+    copier.copy(std::string(kLogo));
+    copier.copy(std::string(kPreview));
     for (const auto name : {kPackages, kRegistryLocations, kTips, kUninstallEnd, kUninstallIntro})
         copier.copy(std::string(name));
     copier.createOwnFolders();

@@ -18,13 +18,14 @@ struct WorkingSetSource {
 };
 
 struct CopyReport {
-    std::vector<std::string> missingSources;  // names whose source did not exist; skipped
-    std::vector<std::string> failedCopies;    // names whose copy failed
-    bool complete() const { return missingSources.empty() && failedCopies.empty(); }
+    std::vector<std::string> failedCopies;  // names whose source exists but whose copy failed
+    bool complete() const { return failedCopies.empty(); }
 };
 
-// Copies the root's settings files to projectRoot + subPath (which exists), overwriting, and
-// creates the working set's own content folders empty: their contents are not copied.
+// Copies the root's settings files that exist to projectRoot + subPath (which exists), overwriting,
+// and creates the working set's own content folders empty: their contents are not copied. A file
+// the root does not have (a new project has no "1.jpg" without a default background, and nothing
+// writes "executables.cfg") is no failure: the working set lacks it as the root does.
 CopyReport edver_file_copier(Host& host, const std::string& subPath, const WorkingSetSource& source);
 
 // Empties projectRoot + subPath, ignoring every failure: the files of its content folders, the

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFocusEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -11,6 +12,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <filesystem>
+
+#include "controls/ctlProgressBar.h"
 #include "core/vars.h"
 #include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
@@ -47,9 +51,12 @@ void UserDay::SetUp() {
     box.writeFile("my program\\prog.exe", "MZ-prog");
     box.writeFile("my program\\helper.ocx", "ocx");
     box.writeFile("my program\\lib\\x.dll", "dll-x");
+    for (std::size_t i = 3; i < kProgramFiles; ++i)
+        box.writeFile("my program\\lib\\data" + std::to_string(i % 4) + "\\part" + std::to_string(i) + ".dat",
+                      "p");
     box.writeFile("docs\\eula.rtf", "{\\rtf1 eula}");
-    // A project of an earlier day, which stays in the list.
-    box.writeFile("Documents\\Orvanta\\myinstallers\\Zeta Tool\\mainsettings.cfg", "Zeta Tool\r\nZed\r\n");
+    // A new account: no documents folder until the first project makes one.
+    std::filesystem::remove_all(box.hostRoot() / "Documents");
 }
 
 void UserDay::TearDown() {
@@ -134,24 +141,30 @@ void UserDay::chooseProject(const std::string& name) {
     emit list.activated(row);
 }
 
-void UserDay::createProject() {
+UserDay::CopyWatch UserDay::createProject(const std::function<void(QWidget& progress)>& duringCopy) {
     start& window = index();
     typeInto(in<QLineEdit>(window, "Text1"), kProject);
     typeInto(in<QLineEdit>(window, "Text3"), "Ann Author");
     dialogs.answerNextFolder({box.windowsPath("my program"), false});
     in<QPushButton>(window, "Command3").click();
+    CopyWatch watch;
+    QTimer watcher;
+    QObject::connect(&watcher, &QTimer::timeout, [&] {
+        auto* progress = windows->editorWindow()
+                             ? windows->editorWindow()->findChild<QWidget*>(QStringLiteral("CopyProgress"))
+                             : nullptr;
+        if (progress == nullptr || !progress->isVisible()) return;
+        if (watch.counts.empty()) watch.editorShownFirst = editor().isVisible();
+        watch.savedEarly = watch.savedEarly || box.exists(rel("mainsettings.cfg"));
+        watch.counts.push_back(in<QLabel>(*progress, "Label1").text().toStdString());
+        watch.bar.push_back(in<ctlProgressBar>(*progress, "ProgressBar1").Value());
+        if (duringCopy) duringCopy(*progress);
+    });
+    watcher.start(0);
     in<QPushButton>(window, "Command1").click();
+    watcher.stop();
     letEventsRun();
-}
-
-// The copy runs beside the editor and ends on its own, deleting its batch file.
-void UserDay::waitForTheCopy() {
-    const bool copied = QTest::qWaitFor(
-        [&] {
-            return box.exists(rel("files\\lib\\x.dll")) && !box.exists("Documents\\Orvanta\\copyfiles.bat");
-        },
-        20000);
-    ASSERT_TRUE(copied);
+    return watch;
 }
 
 // A spread of what a user fills in: texts, placeholder boxes, combo boxes, check boxes whose rules
@@ -187,14 +200,12 @@ void UserDay::fillEditor() {
     clickInEditor("Command16");
     typeInEditor("Text11", "Welcome to My App.\n\nEnjoy.");
 
-    typeInEditor("Text3", "\\Software\\My App");
-    clickInEditor("Command2");
+    clickInEditor("Command2");  // the key the new project offers
     in<QComboBox>(editor(), "Combo2").setCurrentIndex(1);
     typeInEditor("Text3", "\\Software\\My App Shared");
     clickInEditor("Command2");
-    typeInEditor("Text4", "My App");
-    clickInEditor("Command18");
-    clickInEditor("Option2");  // offered once the registry list has an entry
+    clickInEditor("Command18");  // the application data folder the new project offers
+    clickInEditor("Option2");    // offered once the registry list has an entry
     for (const char* dependency : {"helper.ocx", "lib\\x.dll"}) {
         clickInEditor("Command5");
         typeInEditor("Text30", dependency);
@@ -237,6 +248,9 @@ void UserDay::inEditionsWindow(const std::function<void(editionsfrm&)>& work) {
         opened = true;
         work(*window);
         window->Command4->click();
+        if (!window->isVisible()) return;
+        ADD_FAILURE() << "the editions window does not close";
+        window->reject();
     });
     clickInEditor("Command49");
     EXPECT_TRUE(opened) << "the editions window did not open";

@@ -1,7 +1,8 @@
 #pragma once
 // A user's day with the whole program in a sandbox: the program is started through its entry
 // routine, and the user works the windows with clicks, typing and scripted answers to the
-// questions. The project of the day is "My App", made from the folder "my program".
+// questions. The account is new: it has no documents folder yet. The project of the day is
+// "My App", made from the folder "my program", large enough that its copy is watched.
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,8 @@ namespace testing {
 class UserDay : public ::testing::Test {
 protected:
     static constexpr const char* kProject = "My App";
+    // The files of "my program": three named ones and a crowd in subfolders.
+    static constexpr std::size_t kProgramFiles = 131;
 
     void SetUp() override;
     void TearDown() override;
@@ -62,8 +65,16 @@ protected:
     void chooseProject(const std::string& name);
 
     // ---- Stretches of the day
-    void createProject();
-    void waitForTheCopy();
+    // What the user sees of the copy while it runs, each time the windows get their turn.
+    struct CopyWatch {
+        bool editorShownFirst = false;    // the editor was up when the copy began
+        bool savedEarly = false;          // a project file was written before the copy ended
+        std::vector<std::string> counts;  // the progress window's texts
+        std::vector<int> bar;             // and its bar
+    };
+    // Fills in the new-project form and creates the project; `duringCopy` acts in the progress
+    // window each time it gets its turn.
+    CopyWatch createProject(const std::function<void(QWidget& progress)>& duringCopy = {});
     void fillEditor();
     void saveWithTheButton();
     void backToTheIndex();

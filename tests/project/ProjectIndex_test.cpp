@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/modShellAndWait.h"
 #include "project/ProjectIndex.h"
 #include "support/Sandbox.h"
 
@@ -19,7 +18,7 @@ TEST_F(ProjectIndex, NamesAreCheckedAgainstThePlaceholderTheListAndTheFileSystem
     Host& host = box.host();
     const std::string placeholder = "Application name";
     box.makeFolder("Orvanta\\myinstallers\\Taken App");
-    const std::pair<const char*, ProjectNameCheck> cases[] = {
+    const std::pair<std::string, ProjectNameCheck> cases[] = {
         {"", ProjectNameCheck::Empty},
         {"Application name", ProjectNameCheck::Empty},
         {"Application names", ProjectNameCheck::Acceptable},
@@ -32,6 +31,9 @@ TEST_F(ProjectIndex, NamesAreCheckedAgainstThePlaceholderTheListAndTheFileSystem
         {"Com1.txt", ProjectNameCheck::Unusable},
         {"Company", ProjectNameCheck::Acceptable},
         {"tab\there", ProjectNameCheck::Unusable},
+        // The workspace here is short: a name this long is refused only for the paths it makes.
+        {std::string(50, 'n'), ProjectNameCheck::Acceptable},
+        {std::string(200, 'n'), ProjectNameCheck::TooLong},
     };
     for (const auto& [name, expected] : cases)
         EXPECT_EQ(checkProjectName(host, workspace(), name, placeholder), expected) << name;
@@ -52,36 +54,34 @@ TEST_F(ProjectIndex, TheFirstProjectMakesTheWholeTreeAndTheListShowsIt) {
     // A file where a folder must go stops the creation and is named.
     box.writeFile("Orvanta\\myinstallers\\Blocked\\files", "not a folder");
     box.makeFolder("Orvanta\\myinstallers\\Blocked\\executables");
-    EXPECT_EQ(createProjectTree(host, workspace(), "Blocked"),
-              workspace() + "\\myinstallers\\Blocked\\files");
+    const auto blocked = createProjectTree(host, workspace(), "Blocked");
+    ASSERT_TRUE(blocked.has_value());
+    EXPECT_EQ(folderFailureText(*blocked), "The folder\n" + workspace() +
+                                               "\\myinstallers\\Blocked\\files\ncould not be created: a file "
+                                               "of that name is in the way.");
 }
 
-TEST_F(ProjectIndex, BatchFilesCopyAndRemoveAProject) {
-    Host& host = box.host();
-    const std::string ws = workspace();
-    EXPECT_EQ(copyFilesBatchText("C:\\ws", "D:\\app", "X"),
-              "xcopy /s /d \"D:\\app\" \"C:\\ws\\myinstallers\\X\\files\" /e /h /y\r\ndel "
-              "C:\\ws\\copyfiles.bat\r\n");
+TEST_F(ProjectIndex, TheLongestPathCountsTheDeepestWorkingSetAndTheTemporaryName) {
+    // "\versions\" 16 "\" 32 "\" "settingsset\settings.cfg" ".~ovtmp-XXXXXX" below "W\myinstallers\N"
+    EXPECT_EQ(longestProjectPath("W", "N"), 16u + 10 + 16 + 1 + 32 + 1 + 24 + 14);
+    // Past 17 characters the marker's name is the longest file name.
+    EXPECT_EQ(longestProjectPath("W", std::string(20, 'n')) - longestProjectPath("W", std::string(19, 'n')),
+              2u);
+    const std::string workspace(100, 'w');
+    const std::string name(80, 'n');
+    const std::string text = tooLongNameText(workspace, name);
+    std::size_t fits = 0;
+    while (longestProjectPath(workspace, std::string(fits + 1, 'n')) <= kLongestWindowsPath) ++fits;
+    EXPECT_EQ(text, "This name is too long: use at most " + std::to_string(fits) +
+                        " characters. With it the project's longest path would have " +
+                        std::to_string(longestProjectPath(workspace, name)) +
+                        " characters, and Windows allows 259.");
+}
+
+// The user's day runs it for real.
+TEST_F(ProjectIndex, TheRemovalBatchFileQuotesTheProjectAndItself) {
     EXPECT_EQ(deleteProjectBatchText("C:\\ws", "X"),
               "rd /s /q \"C:\\ws\\myinstallers\\X\"\r\ndel \"C:\\ws\\deleteproject.bat\"\r\n");
-
-    // Run for real: the copy takes nested and empty folders, the removal takes the whole tree.
-    box.writeFile("source app\\app.exe", "MZ");
-    box.writeFile("source app\\data\\deep\\table.dat", "rows");
-    box.makeFolder("source app\\empty");
-    ASSERT_EQ(createProjectTree(host, ws, "Copy Test"), std::nullopt);
-    ASSERT_TRUE(host.writeFileAtomic(ws + "\\copyfiles.bat",
-                                     copyFilesBatchText(ws, box.windowsPath("source app"), "Copy Test")));
-    shellAndWait(host, "\"" + ws + "\\copyfiles.bat\"", 0, 60);
-    EXPECT_EQ(box.readFile("Orvanta\\myinstallers\\Copy Test\\files\\data\\deep\\table.dat"), "rows");
-    EXPECT_TRUE(box.exists("Orvanta\\myinstallers\\Copy Test\\files\\empty"));
-    // The workspace path has no blank, so the unquoted line removes the batch file.
-    EXPECT_FALSE(box.exists("Orvanta\\copyfiles.bat"));
-
-    ASSERT_TRUE(host.writeFileAtomic(ws + "\\deleteproject.bat", deleteProjectBatchText(ws, "Copy Test")));
-    shellAndWait(host, "\"" + ws + "\\deleteproject.bat\"", 0, 0);
-    EXPECT_FALSE(box.exists("Orvanta\\myinstallers\\Copy Test"));
-    EXPECT_FALSE(box.exists("Orvanta\\deleteproject.bat"));
 }
 
 TEST_F(ProjectIndex, PreviewReadsNameAndAuthor) {

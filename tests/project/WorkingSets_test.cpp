@@ -64,8 +64,7 @@ protected:
 
 TEST_F(WorkingSetFilesTest, CopierCopiesSettingsFilesAndMakesEmptyContentFolders) {
     const auto report = edver_file_copier(box.host(), "\\editions\\Pro", source);
-    EXPECT_EQ(report.missingSources, std::vector<std::string>{"executables.cfg"});
-    EXPECT_TRUE(report.failedCopies.empty());
+    EXPECT_TRUE(report.complete()) << "the root has no executables.cfg, and the copy does not miss it";
     for (const char* name : {"mainsettings.cfg", "Demo.ovproj", "license.rtf", "slicense.txt", "readme.txt",
                              "logo.png", "uninstallIntro.cfg"})
         EXPECT_EQ(box.readFile("Demo\\editions\\Pro\\" + std::string(name)), std::string("root ") + name);

@@ -116,8 +116,12 @@ public:
     void beginNewProject(const std::string&, const std::string&, const std::string&) override {}
     void showLogo(const std::string&) override {}
     void showBackground(const std::string&) override {}
-    void showAndSave() override {}
+    QWidget& showNewProject() override { return window_; }
+    void saveNewProject() override {}
     bool openProject(const std::string&) override { return false; }
+
+private:
+    QWidget window_;
 };
 
 PackagesContext sampleEditor() {

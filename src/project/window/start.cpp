@@ -10,9 +10,12 @@
 #include "core/modShellAndWait.h"
 #include "core/vars.h"
 #include "image/widget/aicAlphaImage.h"
+#include "project/FolderCopy.h"
 #include "project/MarkerFile.h"
 #include "project/ProjectIndex.h"
 #include "project/ProjectPaths.h"
+#include "project/window/CopyProgress.h"
+#include "project/window/ElidedLabel.h"
 #include "project/window/ProjectEditor.h"
 #include "ui_start.h"
 
@@ -27,6 +30,10 @@ const QString kSourcePlaceholder =
 const QString kEditionPlaceholder = QStringLiteral("Edition name");
 const QString kVersionPlaceholder = QStringLiteral("Version");
 const QString kProjectKind = QStringLiteral("Single executable app");
+// How often a copy lets the windows repaint and take a click on its Cancel button: every so many
+// files, and after so long whatever the count.
+constexpr std::size_t kCopyPumpFiles = 64;
+constexpr std::uint64_t kCopyPumpMilliseconds = 40;
 
 void fillPanel(QWidget* panel) {
     QPalette palette = panel->palette();
@@ -44,9 +51,14 @@ start::start(Host& host, Dialogs& dialogs, std::function<ProjectEditor&()> edito
       editor_(std::move(editor)),
       ui_(std::make_unique<Ui::start>()) {
     ui_->setupUi(this);
+    // Long names and texts are shortened, never allowed to widen the window.
+    setFixedWidth(std::max(width(), minimumSizeHint().width()));
+    ui_->Combo1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    ui_->Combo1->setMinimumContentsLength(16);
     name_ = new PlaceholderText(ui_->Text1, kNamePlaceholder);
     author_ = new PlaceholderText(ui_->Text3, kAuthorPlaceholder);
     source_ = new PlaceholderText(ui_->Text2, kSourcePlaceholder);
+    ui_->Text2->setCursorPosition(0);  // the start of a long placeholder or path says the most
     connect(ui_->Text1, &QLineEdit::textChanged, this, &start::Text1_Change);
     connect(ui_->Text3, &QLineEdit::textChanged, this, [this] {
         if (!author_->showsPlaceholder()) PlaceholderText::setPlaceholderLook(ui_->Text3, false);
@@ -73,8 +85,12 @@ start::~start() {
     for (QObject* child : findChildren<QObject*>()) child->disconnect(this);
 }
 
-QLabel* start::loading() const {
+ElidedLabel* start::loading() const {
     return ui_->loading;
+}
+
+void start::showStatus(const QString& text) {
+    ui_->loading->setWholeText(text);
 }
 
 void start::Form_Load() {
@@ -117,8 +133,8 @@ void start::Combo1_Click() {
     ui_->logo->ClearImage();
     ui_->logo->LoadImage_FromFile(inFolder(root, projectfile::kLogo));
     if (const auto lines = projectPreviewLines(host_, root)) {
-        ui_->Label5->setText(toQString(lines->first));
-        ui_->Label7->setText(toQString(lines->second));
+        ui_->Label5->setWholeText(toQString(lines->first));
+        ui_->Label7->setWholeText(toQString(lines->second));
     }
     RegistryAPI(host_).writeSettingNumber(vars::settingsKey(), "lastproject", ui_->Combo1->currentIndex());
     ui_->Command4->setEnabled(true);
@@ -127,23 +143,26 @@ void start::Combo1_Click() {
 void start::Text1_Change() {
     const std::string text = fromQString(ui_->Text1->text());
     if (!name_->showsPlaceholder()) PlaceholderText::setPlaceholderLook(ui_->Text1, false);
-    switch (checkProjectName(host_, vars::workspaceFolder, text, fromQString(kNamePlaceholder))) {
-        case ProjectNameCheck::Empty:
-            return;
-        case ProjectNameCheck::Acceptable:
-            ui_->Command1->setEnabled(true);
-            ui_->Command3->setEnabled(true);
-            ui_->loading->clear();
-            return;
+    const ProjectNameCheck check =
+        checkProjectName(host_, vars::workspaceFolder, text, fromQString(kNamePlaceholder));
+    nameVerdict_ = toQString(nameVerdict(check, text));
+    showStatus(nameVerdict_);
+    if (check == ProjectNameCheck::Empty) return;
+    ui_->Command1->setEnabled(check == ProjectNameCheck::Acceptable);
+    ui_->Command3->setEnabled(check == ProjectNameCheck::Acceptable);
+}
+
+std::string start::nameVerdict(ProjectNameCheck check, const std::string& name) const {
+    switch (check) {
         case ProjectNameCheck::Taken:
-            ui_->loading->setText(QStringLiteral("A project with this name already exists!"));
-            break;
+            return "A project with this name already exists!";
         case ProjectNameCheck::Unusable:
-            ui_->loading->setText(toQString(unusableNameText(text)));
-            break;
+            return unusableNameText(name);
+        case ProjectNameCheck::TooLong:
+            return tooLongNameText(vars::workspaceFolder, name);
+        default:
+            return {};
     }
-    ui_->Command1->setEnabled(false);
-    ui_->Command3->setEnabled(false);
 }
 
 void start::Command1_Click() {
@@ -153,8 +172,8 @@ void start::Command1_Click() {
         ProjectNameCheck::Acceptable)
         return;
     if (const auto failed = createProjectTree(host_, workspace, name)) {
-        dialogs_.messageBox({"The folder \"" + *failed + "\" could not be created.", MessageButtons::Ok,
-                             MessageIcon::Critical, "Orvanta"});
+        dialogs_.messageBox(
+            {folderFailureText(*failed), MessageButtons::Ok, MessageIcon::Critical, "Orvanta"});
         return;
     }
     const std::string root = projectRoot(workspace, name);
@@ -164,19 +183,43 @@ void start::Command1_Click() {
     const std::string defaultLogo = host_.applicationFolder() + "\\i\\default.png";
     if (fileExists(host_, defaultLogo) && host_.copyFile(defaultLogo, inFolder(root, projectfile::kLogo)))
         editor.showLogo(inFolder(root, projectfile::kLogo));
-    if (!source_->showsPlaceholder()) {
-        const std::string batch = copyFilesBatch(workspace);
-        if (host_.writeFileAtomic(batch, copyFilesBatchText(workspace, sourceFolder_, name)))
-            shellOpen(host_, dialogs_, batch, "");
-    }
     const std::string background = inFolder(root, projectfile::kBackground);
     const std::string defaultBackground = inFolder(backgroundsFolder(workspace), "Default.jpg");
     if (fileExists(host_, background) == kFalse && fileExists(host_, defaultBackground) != kFalse)
         host_.copyFile(defaultBackground, background);
     editor.showBackground(background);
-    editor.showAndSave();
+    QWidget& editorWindow = editor.showNewProject();
     hide();
+    // The first save lists "\files", so it waits for the copy; what the copy missed is told after
+    // the save, of which the report speaks.
+    const std::string missed =
+        source_->showsPlaceholder() ? std::string() : copyApplicationFiles(editorWindow, root);
+    editor.saveNewProject();
+    if (!missed.empty())
+        dialogs_.messageBox({missed, MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
     emit unloaded();
+}
+
+// Copied here file by file rather than by an xcopy batch file: only so can the files be counted,
+// the bar moved, the copy stopped between two files, and the save be sure the copy has ended.
+std::string start::copyApplicationFiles(QWidget& editor, const std::string& projectRoot) {
+    CopyProgress progress(dialogs_, &editor);
+    progress.show();
+    host_.processPendingMessages();
+    std::uint64_t lastPump = host_.tickMilliseconds();
+    const std::string target = inFolder(projectRoot, projectfolder::kFiles);
+    const FolderCopyOutcome outcome =
+        copyFolderContents(host_, sourceFolder_, target, [&](std::size_t done, std::size_t total) {
+            const std::uint64_t now = host_.tickMilliseconds();
+            if (done % kCopyPumpFiles == 0 || done == total || now - lastPump >= kCopyPumpMilliseconds) {
+                progress.showProgress(done, total);
+                host_.processPendingMessages();
+                lastPump = now;
+            }
+            return !progress.cancelled();
+        });
+    progress.hide();
+    return folderCopyReport(outcome, sourceFolder_, target);
 }
 
 void start::Command3_Click() {
@@ -194,13 +237,13 @@ void start::Command3_Click() {
 void start::Command4_Click() {
     if (ui_->Combo1->currentText().isEmpty()) return;
     setEnabled(false);
-    ui_->loading->setText(QStringLiteral("...loading frontend window"));
+    showStatus(QStringLiteral("...loading frontend window"));
     host_.processPendingMessages();
     const std::string name = selectedProject();
     const std::string root = projectRoot(vars::workspaceFolder, name);
     readMarker(host_, markerPath(root, name));  // read as the format wants it; nothing uses it
-    // After a failed load the index stays disabled: the loader has told the user why.
-    if (!editor_().openProject(root)) return;
+    // A failed load has told the user why; the index is usable again for another choice.
+    if (!editor_().openProject(root)) showStatus({});
     setEnabled(true);
     host_.processPendingMessages();
 }
@@ -217,11 +260,11 @@ void start::command5_Click() {
     const std::string& workspace = vars::workspaceFolder;
     const std::string batch = deleteProjectBatch(workspace);
     host_.writeFileAtomic(batch, deleteProjectBatchText(workspace, selectedProject()));
-    ui_->loading->setText(QStringLiteral("Removing your project. please wait..."));
+    showStatus(QStringLiteral("Removing your project. please wait..."));
     shellAndWait(host_, "\"" + batch + "\"", kWindowHidden, 0);
     ui_->Combo1->clear();
     listProjects();
-    ui_->loading->setText(QStringLiteral("Project removel successfuly!"));
+    showStatus(QStringLiteral("Project removel successfuly!"));
     if (ui_->Combo1->count() == 0) return;
     ui_->Combo1->setCurrentIndex(ui_->Combo1->count() - 1);
     Combo1_Click();
@@ -287,13 +330,14 @@ void start::setUpTips() {
 bool start::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Enter) {
         const auto tip = tips_.find(watched);
-        if (tip != tips_.end()) ui_->loading->setText(tip->second);
+        if (tip != tips_.end()) showStatus(tip->second);
     }
     return QWidget::eventFilter(watched, event);
 }
 
+// Over the background the tips go; what the typed name is told stays until the name changes.
 void start::mouseMoveEvent(QMouseEvent* event) {
-    ui_->loading->clear();
+    showStatus(nameVerdict_);
     QWidget::mouseMoveEvent(event);
 }
 

@@ -11,11 +11,12 @@
 
 #include "core/Dialogs.h"
 #include "platform/Host.h"
+#include "project/ProjectIndex.h"
+#include "project/window/ElidedLabel.h"
 
 namespace Ui {
 class start;
 }
-class QLabel;
 class QLineEdit;
 
 namespace orvanta {
@@ -31,7 +32,9 @@ public:
     ~start() override;
 
     Ui::start& ui() { return *ui_; }
-    QLabel* loading() const;
+    ElidedLabel* loading() const;
+    // The status line: the whole text, shortened to the window's width with the rest in its tip.
+    void showStatus(const QString& text);
     const std::string& sourceFolder() const { return sourceFolder_; }
 
     // The window's events, public so that the program and tests reach them as the user does.
@@ -58,6 +61,10 @@ protected:
 
 private:
     void listProjects();
+    std::string nameVerdict(ProjectNameCheck check, const std::string& name) const;
+    // Fills the new project's "\files" from the chosen folder, with the progress over `editor`;
+    // what the user is to hear of files it did not copy, or nothing.
+    std::string copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
     std::string selectedProject() const;
     void setUpTips();
     void advancedFieldEdited(QLineEdit* field, const QString& word, const QString& placeholder);
@@ -72,6 +79,8 @@ private:
     PlaceholderText* edition_ = nullptr;
     PlaceholderText* version_ = nullptr;
     std::string sourceFolder_;
+    // What the typed name is told, shown again whenever a tip gives the status line back.
+    QString nameVerdict_;
     std::map<QObject*, QString> tips_;
 };
 
