@@ -10,6 +10,7 @@
 #include "core/vars.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
+#include "platform/WindowsPath.h"
 #include "project/EditorControls.h"
 #include "project/window/start.h"
 
@@ -58,6 +59,9 @@ TEST_F(ProjectDay, ANewAccountsFirstProjectIsSavedOnceItsFilesAreCopied) {
     EXPECT_FALSE(in<QPushButton>(index(), "Command1").isEnabled());
 
     const CopyWatch copy = createProject();
+    ASSERT_EQ(dialogs.folderBrowsers.size(), 1u);
+    EXPECT_EQ(dialogs.folderBrowsers[0].initialFolder, parentFolder(box.documentsFolder()))
+        << "without a documents folder the browser opens on the folder above it";
     EXPECT_TRUE(copy.editorShownFirst);
     EXPECT_FALSE(copy.savedEarly) << "the first save waits for the copy";
     ASSERT_GE(copy.counts.size(), 3u) << "the progress is shown while the copy runs";

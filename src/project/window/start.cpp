@@ -10,6 +10,7 @@
 #include "core/modShellAndWait.h"
 #include "core/vars.h"
 #include "image/widget/aicAlphaImage.h"
+#include "platform/WindowsPath.h"
 #include "project/FolderCopy.h"
 #include "project/MarkerFile.h"
 #include "project/ProjectIndex.h"
@@ -222,12 +223,20 @@ std::string start::copyApplicationFiles(QWidget& editor, const std::string& proj
     return folderCopyReport(outcome, sourceFolder_, target);
 }
 
+// A new account may have no documents folder yet: the browser then opens on the nearest folder
+// above it that exists, the home folder, rather than on the root of the drive.
+std::string start::nearestExistingFolder(std::string folder) const {
+    while (folderExists(host_, folder) == kFalse && folder.find('\\') != std::string::npos)
+        folder = parentFolder(folder);
+    return folder;
+}
+
 void start::Command3_Click() {
     if (name_->showsPlaceholder()) return;
     const FolderBrowserAnswer answer = dialogs_.browseForFolder(
         {"Select files folder to copy for " + fromQString(ui_->Text1->text()) +
              " setup project. All the files, directories and sub directories will be copied.",
-         host_.specialFolder(5), false, false});
+         nearestExistingFolder(host_.specialFolder(5)), false, false});
     if (answer.folder.empty()) return;
     sourceFolder_ = answer.folder;
     ui_->Text2->setText(toQString(sourceFolder_));

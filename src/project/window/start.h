@@ -66,6 +66,7 @@ private:
     // what the user is to hear of files it did not copy, or nothing.
     std::string copyApplicationFiles(QWidget& editor, const std::string& projectRoot);
     std::string selectedProject() const;
+    std::string nearestExistingFolder(std::string folder) const;
     void setUpTips();
     void advancedFieldEdited(QLineEdit* field, const QString& word, const QString& placeholder);
 
