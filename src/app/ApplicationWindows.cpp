@@ -124,7 +124,9 @@ void ApplicationWindows::showAndSave() {
 // A failed load has told the user why; the editor goes and the index stays as it is, disabled.
 bool ApplicationWindows::openProject(const std::string& projectRoot) {
     EditorContext loading = editorContext();
-    if (loadProject(loading, projectRoot) != LoadOutcome::Loaded) {
+    const LoadOutcome outcome = loadProject(loading, projectRoot);
+    if (outcome == LoadOutcome::Refused) return false;  // a save or load still runs in this editor
+    if (outcome != LoadOutcome::Loaded) {
         unloadEditor();
         return false;
     }

@@ -11,7 +11,9 @@ namespace orvanta {
 
 std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& edition,
                                            std::string& version) {
-    project_saver(context);
+    const ProjectTask task;
+    if (!task.running()) return LoadOutcome::Refused;
+    project_saver(context, task);
     context.fields.processPendingEvents();
     const std::string root = projectRoot(vars::workspaceFolder, context.fields.text(ctrl::appName));
     const auto choice = chooseWorkingSet(root, edition, version, [&context](const std::string& folder) {
@@ -19,7 +21,7 @@ std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& 
     });
     version = choice.version;
     std::optional<LoadOutcome> outcome;
-    if (choice.folder) outcome = loadProject(context, *choice.folder);
+    if (choice.folder) outcome = loadProject(context, *choice.folder, task);
     // The loader reads over the file's edition line, so the name comes from here alone.
     context.fields.setText(ctrl::editionName, choice.editionName);
     return outcome;

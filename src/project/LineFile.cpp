@@ -1,5 +1,6 @@
 #include "project/LineFile.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orvanta {
@@ -57,8 +58,20 @@ std::optional<std::vector<std::string>> readLines(Host& host, const std::string&
     return collector.finish();
 }
 
+bool isControlByte(char c) {
+    return static_cast<unsigned char>(c) < 0x20;
+}
+
+bool removeControlBytes(std::string& line) {
+    const auto kept = std::remove_if(line.begin(), line.end(), isControlByte);
+    if (kept == line.end()) return false;
+    line.erase(kept, line.end());
+    return true;
+}
+
 void appendLine(std::string& out, std::string_view line) {
-    out += line;
+    for (const char c : line)
+        if (!isControlByte(c)) out += c;
     out += "\r\n";
 }
 

@@ -85,15 +85,16 @@ TEST(FontLists, AnEmptyFileClearsAndTheMarkKeeps) {
     EXPECT_EQ(readFontList(host, path).items.size(), kShortListLines);
 }
 
-TEST(ContentLists, AreAppendedAndCutAtTheirBuffer) {
+TEST(ContentLists, ReplaceTheListEvenWhenTheFileIsMissing) {
     testing::Sandbox box;
     Host& host = box.host();
     ASSERT_TRUE(writeContentList(host, box.windowsPath("files.cfg"), {"a.exe", "sub\\b.dll"}));
     EXPECT_EQ(box.readFile("files.cfg"), "a.exe\r\nsub\\b.dll\r\n");
     Items list = {"earlier.txt"};
     applyListUpdate(readContentList(host, box.windowsPath("files.cfg")), list);
-    EXPECT_EQ(list, (Items{"earlier.txt", "a.exe", "sub\\b.dll"}));
-    EXPECT_EQ(readContentList(host, box.windowsPath("missing.cfg")).action, ListAction::Keep);
+    EXPECT_EQ(list, (Items{"a.exe", "sub\\b.dll"}));
+    applyListUpdate(readContentList(host, box.windowsPath("missing.cfg")), list);
+    EXPECT_TRUE(list.empty());
 }
 
 TEST(DependencyLists, WriteNameAndBlankedFlagAndReadEitherFlagForm) {
@@ -163,11 +164,13 @@ TEST(SmallFiles, MarkerSettingsSetDesktopIniAndInstallerLists) {
     box.writeFile("short.ovproj", "Only");
     EXPECT_EQ(readMarker(host, box.windowsPath("short.ovproj"))->lastWord, "");
 
-    ASSERT_TRUE(writeSettingsSetFile(host, box.windowsPath("0.cfg"), "keys.reg"));
-    EXPECT_EQ(box.readFile("0.cfg"), "keys.reg\r\n");
-    EXPECT_EQ(readSettingsSetMember(host, box.windowsPath("0.cfg")), "keys.reg");
-    box.writeFile("1.cfg", "");
-    EXPECT_EQ(readSettingsSetMember(host, box.windowsPath("1.cfg")), "");
+    const SettingsSet set{"keys.reg", "File types", "REG"};
+    ASSERT_TRUE(writeSettingsSetFile(host, box.windowsPath("0.cfg"), set));
+    EXPECT_EQ(box.readFile("0.cfg"), "keys.reg\r\nFile types\r\nREG\r\n");
+    EXPECT_EQ(readSettingsSetFile(host, box.windowsPath("0.cfg")), set);
+    box.writeFile("1.cfg", "old.reg");
+    EXPECT_EQ(readSettingsSetFile(host, box.windowsPath("1.cfg")), (SettingsSet{"old.reg", "old.reg", ""}))
+        << "a file of the member alone keeps its set in use";
 
     const std::string icon = desktopIniIconPath("C:\\Orvanta", "Demo", "demo.exe");
     EXPECT_EQ(icon, "C:\\Orvanta\\myinstallers\\Demo\\files\\demo.exe");
