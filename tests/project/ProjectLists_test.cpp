@@ -5,6 +5,7 @@
 #include "project/DesktopIni.h"
 #include "project/FontList.h"
 #include "project/InstallerLists.h"
+#include "project/LeftoverTemporaries.h"
 #include "project/LineFile.h"
 #include "project/LocationList.h"
 #include "project/MarkerFile.h"
@@ -182,6 +183,18 @@ TEST(SmallFiles, MarkerSettingsSetDesktopIniAndInstallerLists) {
     EXPECT_FALSE(skimInstallerList(host, box.windowsPath("msi.cfg")));
     box.writeFile("msi.cfg", std::string(100000, '\n'));
     EXPECT_TRUE(skimInstallerList(host, box.windowsPath("msi.cfg")));
+}
+
+// The POSIX host's temporaries and the Windows host's (GetTempFileName with the prefix "ovt").
+TEST(LeftoverTemporaries, AreKnownByEitherHostsNames) {
+    for (const auto& [name, leftover] : {std::pair{"mainsettings.cfg.~ovtmp-a1B2c3", true},
+                                         {"ovt1A2F.tmp", true},
+                                         {"OVTFFFF.TMP", true},
+                                         {"ovt.tmp", false},
+                                         {"ovtx1.tmp", false},
+                                         {"overtime.tmp", false},
+                                         {"notes.~ovtmp", false}})
+        EXPECT_EQ(isLeftoverTemporary(name), leftover) << name;
 }
 
 }  // namespace
