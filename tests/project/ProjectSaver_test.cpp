@@ -275,6 +275,8 @@ TEST_F(ProjectSaverTest, TheRecordHoldsEveryEntryComputedApart) {
 // the next open and save leave what a clean save leaves.
 TEST_F(ProjectSaverTest, ASaveKilledAtAnyPointLeavesAWholeProject) {
     fillEveryFile();
+    box.writeFile(rel("desktop.ini"), "[.ShellClassInfo]\r\n");  // kept: no folder attributes to undo
+
     ASSERT_EQ(save(), SaveOutcome::Saved);
     const Tree before = Tree::of(projectOnDisk());
     fields->setText(introText, "Welcome back");
