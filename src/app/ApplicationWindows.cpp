@@ -137,7 +137,9 @@ void ApplicationWindows::saveNewProject() {
 // A failed load has told the user why; the editor goes, and the caller makes the index usable.
 bool ApplicationWindows::openProject(const std::string& projectRoot) {
     EditorContext loading = editorContext();
-    if (loadProject(loading, projectRoot) != LoadOutcome::Loaded) {
+    const LoadOutcome outcome = loadProject(loading, projectRoot);
+    if (outcome == LoadOutcome::Refused) return false;  // a save or load still runs in this editor
+    if (outcome != LoadOutcome::Loaded) {
         unloadEditor();
         return false;
     }

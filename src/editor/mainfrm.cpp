@@ -19,8 +19,6 @@ mainfrm::mainfrm(mainfrmContext context, QWidget* parent)
     shade->setObjectName(QStringLiteral("shade"));
     shade->setAttribute(Qt::WA_TransparentForMouseEvents);
     shade->lower();
-    if (context_.settingsSetNames == nullptr) context_.settingsSetNames = &ownSettingsSetNames_;
-    if (context_.settingsSetTypes == nullptr) context_.settingsSetTypes = &ownSettingsSetTypes_;
     connectShell();
     connectFieldRules();
     connectDependentChecks();

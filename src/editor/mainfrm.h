@@ -47,9 +47,6 @@ struct mainfrmContext {
     std::function<void()> unloadStart;         // after leaving any other way: the program ends
     std::function<void()> showBackgrounds;     // Command1, the backgrounds manager
     std::function<void()> showInstallPreview;  // the simulator; without it `pre` stays disabled
-    // The process-wide settings set tables; null: the window keeps tables of its own.
-    SettingsSetColumn* settingsSetNames = nullptr;
-    SettingsSetColumn* settingsSetTypes = nullptr;
 };
 
 class mainfrm : public QWidget {
@@ -199,8 +196,6 @@ private:
 
     mainfrmContext context_;
     std::unique_ptr<Ui::mainfrm> ui_;
-    SettingsSetColumn ownSettingsSetNames_;
-    SettingsSetColumn ownSettingsSetTypes_;
     bool choosingExecutable_ = false;
     QPointer<optionsfrm> options_;
     std::optional<QPoint> dragFrom_;  // where a press on the header band began

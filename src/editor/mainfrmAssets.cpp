@@ -179,8 +179,7 @@ void mainfrm::Command37_Click() {
 }
 
 void mainfrm::Command44_Click() {
-    auto* window = new settingsSetsfrm(context_.host, context_.dialogs, workingFolder(),
-                                       *context_.settingsSetNames, *context_.settingsSetTypes, this);
+    auto* window = new settingsSetsfrm(context_.host, context_.dialogs, workingFolder(), settingsSets, this);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->show();
 }

@@ -10,7 +10,6 @@
 #include "core/CommondialogBox.h"
 #include "core/commonFunctions.h"
 #include "editor/Mnemonics.h"
-#include "project/LineFile.h"
 #include "project/ProjectPaths.h"
 
 namespace orvanta {
@@ -26,13 +25,12 @@ QString numbered(const char* name, int set) {
 }  // namespace
 
 settingsSetsfrm::settingsSetsfrm(Host& host, Dialogs& dialogs, std::string workingFolder,
-                                 SettingsSetColumn& names, SettingsSetColumn& types, QWidget* parent)
+                                 SettingsSetTables& tables, QWidget* parent)
     : QDialog(parent),
       host_(host),
       dialogs_(dialogs),
       workingFolder_(std::move(workingFolder)),
-      names_(names),
-      types_(types) {
+      tables_(tables) {
     setObjectName(QStringLiteral("settingsSetsfrm"));
     setWindowTitle(QStringLiteral("Settings sets"));
     buildRows();
@@ -80,26 +78,14 @@ void settingsSetsfrm::buildRows() {
     giveMnemonics(*this, letters);
 }
 
-std::string settingsSetsfrm::setFileText(const std::string& member, const std::string& name,
-                                         const std::string& type) {
-    return linesText({member, name, type});
-}
-
-// The tables come first; a set the tables do not know yet is taken from its file.
+// The loader has filled the tables from the sets' files.
 void settingsSetsfrm::readRow(int set) {
-    const auto index = static_cast<std::size_t>(set);
-    Row& row = rows_[index];
-    const auto lines = readLines(host_, settingsSetFile(workingFolder_, set), 3);
-    std::string name = names_[index];
-    std::string type = types_[index];
-    if (name.empty() && lines && lines->size() >= 3) {
-        name = (*lines)[1];
-        type = (*lines)[2];
-    }
-    row.name->setText(toQString(name));
-    const int typeIndex = row.type->findText(toQString(type));
+    const SettingsSet& kept = tables_.sets[static_cast<std::size_t>(set)];
+    Row& row = rows_[static_cast<std::size_t>(set)];
+    row.name->setText(toQString(kept.name));
+    const int typeIndex = row.type->findText(toQString(kept.type));
     row.type->setCurrentIndex(typeIndex < 0 ? 0 : typeIndex);
-    row.member->setText(lines && !lines->empty() ? toQString(lines->front()) : QString());
+    row.member->setText(toQString(kept.member));
 }
 
 void settingsSetsfrm::choose(int set) {
@@ -133,22 +119,20 @@ void settingsSetsfrm::Command1_Click() {
 
 // An unused set has an empty name and no file; its member file in the folder stays.
 void settingsSetsfrm::writeRow(int set) {
-    const auto index = static_cast<std::size_t>(set);
-    const Row& row = rows_[index];
+    const Row& row = rows_[static_cast<std::size_t>(set)];
+    SettingsSet& kept = tables_.sets[static_cast<std::size_t>(set)];
     const std::string name = fromQString(row.name->text().trimmed());
     const std::string member = fromQString(row.member->text());
     const std::string file = settingsSetFile(workingFolder_, set);
     if (name.empty() || member.empty()) {
-        names_[index].clear();
-        types_[index].clear();
+        kept = {};
         if (fileExists(host_, file)) host_.deleteFile(file);
         return;
     }
-    names_[index] = name;
-    types_[index] = fromQString(row.type->currentText());
+    kept = {member, name, fromQString(row.type->currentText())};
     const std::string folder = inFolder(workingFolder_, projectfolder::kSettingsSet);
     if (!folderExists(host_, folder)) host_.createFolder(folder);
-    if (!host_.writeFileAtomic(file, setFileText(member, name, types_[index])))
+    if (!writeSettingsSetFile(host_, file, kept))
         dialogs_.messageBox(
             {"Could not write " + file + ".", MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
 }

@@ -9,24 +9,18 @@
 
 #include "core/Dialogs.h"
 #include "platform/Host.h"
-#include "project/SettingsSetFile.h"
+#include "project/SettingsSets.h"
 
 class QComboBox;
 class QLineEdit;
 
 namespace orvanta {
 
-using SettingsSetColumn = std::array<std::string, kSettingsSetCount>;
-
 class settingsSetsfrm : public QDialog {
     Q_OBJECT
 public:
-    settingsSetsfrm(Host& host, Dialogs& dialogs, std::string workingFolder, SettingsSetColumn& names,
-                    SettingsSetColumn& types, QWidget* parent = nullptr);
-
-    // The file of set i, "<i>.cfg": its member file, then the set's name and type.
-    static std::string setFileText(const std::string& member, const std::string& name,
-                                   const std::string& type);
+    settingsSetsfrm(Host& host, Dialogs& dialogs, std::string workingFolder, SettingsSetTables& tables,
+                    QWidget* parent = nullptr);
 
 public slots:
     void choose(int set);
@@ -46,8 +40,7 @@ private:
     Host& host_;
     Dialogs& dialogs_;
     std::string workingFolder_;
-    SettingsSetColumn& names_;
-    SettingsSetColumn& types_;
+    SettingsSetTables& tables_;
     std::array<Row, kSettingsSetCount> rows_{};
 };
 

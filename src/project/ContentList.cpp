@@ -14,8 +14,7 @@ bool writeContentList(Host& host, const std::string& path, const std::vector<std
 
 ListUpdate readContentList(Host& host, const std::string& path) {
     auto lines = readLines(host, path, kContentListLines);
-    if (!lines) return {};
-    return {ListAction::Append, std::move(*lines)};
+    return {ListAction::Replace, lines ? std::move(*lines) : std::vector<std::string>{}};
 }
 
 }  // namespace orvanta

@@ -1,6 +1,6 @@
 #pragma once
-// "files.cfg" and "folders.cfg": one path relative to "\files" a line. The loader adds them to
-// the list without clearing it first; the saver refreshes the list from the folder anyway.
+// "files.cfg" and "folders.cfg": one path relative to "\files" a line. The file replaces the list
+// whole, so a switch of working set never shows the last set's entries beside its own.
 
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@ namespace orvanta {
 
 std::string contentListText(const std::vector<std::string>& paths);
 bool writeContentList(Host& host, const std::string& path, const std::vector<std::string>& paths);
-// At most 100,001 lines, as Append; a missing file keeps the list.
+// At most 100,001 lines, as Replace; a missing file empties the list.
 ListUpdate readContentList(Host& host, const std::string& path);
 
 }  // namespace orvanta

@@ -11,7 +11,9 @@ namespace orvanta {
 
 std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& edition,
                                            std::string& version) {
-    project_saver(context);
+    const ProjectTask task;
+    if (!task.running()) return LoadOutcome::Refused;
+    project_saver(context, task);
     context.fields.processPendingEvents();
     const std::string before = context.fields.text(ctrl::workingFolder);
     const std::string root = projectRoot(vars::workspaceFolder, context.fields.text(ctrl::appName));
@@ -20,7 +22,7 @@ std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& 
     });
     version = choice.version;
     std::optional<LoadOutcome> outcome;
-    if (choice.folder) outcome = loadProject(context, *choice.folder);
+    if (choice.folder) outcome = loadProject(context, *choice.folder, task);
     if (outcome && *outcome != LoadOutcome::Loaded) {
         // The loader failed before it read a value: the window still holds the working set it
         // came from, so it goes back to it, usable, and a later save writes there.

@@ -1,7 +1,8 @@
 #include "project/IntegrityRecord.h"
 
-#include <exception>
+#include <algorithm>
 
+#include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
 #include "platform/WindowsPath.h"
 #include "project/LineFile.h"
@@ -15,7 +16,7 @@ namespace {
 std::optional<std::int32_t> fileCrc(clsCRC& crc, const std::string& path) {
     try {
         return crc.CalculateFile(path).value_or(0);
-    } catch (const std::exception&) {
+    } catch (const RuntimeError&) {
         return std::nullopt;
     }
 }
@@ -78,8 +79,8 @@ private:
         for (int i = 0; i < kSettingsSetCount; ++i) {
             const auto slot = static_cast<std::size_t>(i);
             if (!isRecordedSettingsSetType(in_.settingsSetTypes[slot])) continue;
-            const auto member = readSettingsSetMember(host_, settingsSetFile(in_.workingFolder, i));
-            hash(18 + slot, belowSettingsSet(member.value_or("")));
+            const auto set = readSettingsSetFile(host_, settingsSetFile(in_.workingFolder, i));
+            hash(18 + slot, belowSettingsSet(set ? set->member : std::string()));
         }
     }
 
@@ -114,19 +115,35 @@ private:
     RecordEntries entries_{};
 };
 
-bool isDotEntry(const std::string& name) {
-    return name == "." || name == "..";
+bool isRecordName(const std::string& name) {
+    return name != "." && name != ".." && toLowerAscii(name).ends_with("hsh");
+}
+
+// The records of the folder: every file whose name ends in "hsh" in any case. Pending messages
+// run after each entry looked at.
+std::vector<std::string> recordsIn(Host& host, const std::string& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : host.listDirectory(inFolder(folder, "*"), true)) {
+        if (!entry.isFolder() && isRecordName(entry.name)) names.push_back(entry.name);
+        host.processPendingMessages();
+    }
+    return names;
+}
+
+// One record survives every step: the extra ones go first, then the survivor takes the new text
+// in one atomic write and its new name in one rename.
+bool replaceRecord(Host& host, const std::string& folder, const std::string& name, const std::string& text) {
+    auto records = recordsIn(host, folder);
+    const auto same = std::find(records.begin(), records.end(), name);
+    if (same != records.end()) std::iter_swap(records.begin(), same);
+    for (std::size_t i = 1; i < records.size(); ++i) host.deleteFile(inFolder(folder, records[i]));
+    const std::string target = inFolder(folder, name);
+    if (records.empty() || records.front() == name) return host.writeFileAtomic(target, text);
+    const std::string survivor = inFolder(folder, records.front());
+    return host.writeFileAtomic(survivor, text) && host.renameFile(survivor, target);
 }
 
 }  // namespace
-
-void deleteIntegrityRecords(Host& host, const std::string& workingFolder) {
-    for (const auto& entry : host.listDirectory(inFolder(workingFolder, "*"), true)) {
-        if (!isDotEntry(entry.name) && toLowerAscii(entry.name).ends_with("hsh"))
-            host.deleteFile(inFolder(workingFolder, entry.name));
-        host.processPendingMessages();
-    }
-}
 
 RecordEntries integrityEntries(Host& host, clsCRC& crc, const IntegrityInputs& inputs) {
     return EntryFiller(host, crc, inputs).fill();
@@ -136,15 +153,11 @@ std::optional<std::string> writeIntegrityRecord(Host& host, const IntegrityInput
                                                 const UnitRandom& random) {
     clsCRC crc(host);
     crc.setAlgorithm(1);
-    deleteIntegrityRecords(host, inputs.workingFolder);
     const auto entries = integrityEntries(host, crc, inputs);
-    const std::string draft = inFolder(inputs.workingFolder, projectfile::kRecordDraft);
-    if (!host.writeFileAtomic(draft, linesText({entries.begin(), entries.end()}))) return std::nullopt;
-    const auto sealed = fileCrc(crc, draft);
-    if (!sealed) return std::nullopt;
-    const std::string name =
-        recordStem(*sealed) + recordLetter(random()) + std::string(projectfile::kRecordExtension);
-    if (!host.renameFile(draft, inFolder(inputs.workingFolder, name))) return std::nullopt;
+    const std::string text = linesText({entries.begin(), entries.end()});
+    const std::string name = recordStem(crc.CalculateString(text)) + recordLetter(random()) +
+                             std::string(projectfile::kRecordExtension);
+    if (!replaceRecord(host, inputs.workingFolder, name, text)) return std::nullopt;
     return name;
 }
 

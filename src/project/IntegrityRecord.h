@@ -33,16 +33,14 @@ struct IntegrityInputs {
     std::array<std::string, kRecordedExecutables> executableNames;
 };
 
-// Deletes every entry of the folder whose name ends in "hsh" in any case, letting pending
-// messages run after each entry looked at.
-void deleteIntegrityRecords(Host& host, const std::string& workingFolder);
-
 // The 37 values: crcHex of each file, "0" for an empty file, empty for a file that cannot be read
 // or whose condition does not hold.
 RecordEntries integrityEntries(Host& host, clsCRC& crc, const IntegrityInputs& inputs);
 
-// Deletes the old records, writes "hash.hsh", renames it to its sealed name and gives that name
-// ("<stem><letter>.hsh"). Nothing if the record could not be written or renamed.
+// Computes the record and its sealed name ("<stem><letter>.hsh", the stem from the record's own
+// CRC) in memory and puts it in place of the folder's old records, so that the folder holds
+// exactly one record at every moment. Gives the name; nothing if the record could not be put in
+// place (the old one, or the new text under the old name, then stays).
 std::optional<std::string> writeIntegrityRecord(Host& host, const IntegrityInputs& inputs,
                                                 const UnitRandom& random);
 

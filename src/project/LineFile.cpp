@@ -1,5 +1,6 @@
 #include "project/LineFile.h"
 
+#include <algorithm>
 #include <array>
 
 namespace orvanta {
@@ -14,14 +15,14 @@ public:
 
     bool full() const { return lines_.size() >= maxLines_; }
 
+    // Whole runs up to each line end at once: a list of 100,000 paths is read byte by byte otherwise.
     void take(std::string_view bytes) {
-        for (const char c : bytes) {
-            if (full()) return;
-            if (c == '\n') {
-                endLine();
-            } else {
-                current_ += c;
-            }
+        while (!bytes.empty() && !full()) {
+            const auto end = bytes.find('\n');
+            current_.append(bytes.substr(0, end));
+            if (end == std::string_view::npos) return;
+            endLine();
+            bytes.remove_prefix(end + 1);
         }
     }
 
@@ -57,8 +58,20 @@ std::optional<std::vector<std::string>> readLines(Host& host, const std::string&
     return collector.finish();
 }
 
+bool isControlByte(char c) {
+    return static_cast<unsigned char>(c) < 0x20;
+}
+
+bool removeControlBytes(std::string& line) {
+    const auto kept = std::remove_if(line.begin(), line.end(), isControlByte);
+    if (kept == line.end()) return false;
+    line.erase(kept, line.end());
+    return true;
+}
+
 void appendLine(std::string& out, std::string_view line) {
-    out += line;
+    for (const char c : line)
+        if (!isControlByte(c)) out += c;
     out += "\r\n";
 }
 

@@ -10,7 +10,7 @@ constexpr const char* kKeepMark = "<>";
 
 void applyListUpdate(const ListUpdate& update, std::vector<std::string>& list) {
     if (update.action == ListAction::Keep) return;
-    if (update.action == ListAction::Replace) list.clear();
+    list.clear();
     list.insert(list.end(), update.items.begin(), update.items.end());
 }
 

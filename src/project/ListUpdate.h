@@ -1,6 +1,6 @@
 #pragma once
 // What reading a list file asks of the list it feeds. Some list files do not say what the list
-// holds but how to change it: "<>" leaves it as it stands, files.cfg adds to what is there.
+// holds but how to change it: "<>" leaves it as it stands.
 
 #include <string>
 #include <vector>
@@ -11,7 +11,6 @@ namespace orvanta {
 
 enum class ListAction {
     Replace,  // clear the list, then add `items`
-    Append,   // add `items` to what the list holds
     Keep,     // leave the list as it stands
 };
 

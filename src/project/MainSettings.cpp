@@ -131,27 +131,42 @@ struct LineWriter {
     }
 };
 
+// Each visit gives what went wrong with the line, or nothing.
 struct LineReader {
     MainSettings& settings;
     const std::string& line;
 
-    void operator()(const TextLine& rule) const {
-        if (rule.read == TextRead::Over || (rule.read == TextRead::TakeIfNotEmpty && line.empty())) return;
+    std::optional<std::string> operator()(const TextLine& rule) const {
+        if (rule.read == TextRead::Over || (rule.read == TextRead::TakeIfNotEmpty && line.empty()))
+            return std::nullopt;
         settings.*rule.field = line;
+        return std::nullopt;
     }
-    void operator()(const NumberLine& rule) const {
-        if (rule.read == NumberRead::Over) return;
+    std::optional<std::string> operator()(const NumberLine& rule) const {
+        if (rule.read == NumberRead::Over) return std::nullopt;
         const auto value = rule.read == NumberRead::IntegerPart ? integerPartOf(line) : convertedNumber(line);
-        if (value) settings.*rule.field = value;
+        if (!value) return quoted() + " is no number; the field keeps its value";
+        settings.*rule.field = value;
+        return std::nullopt;
     }
-    void operator()(ZeroLine) const {}
-    void operator()(UninstallLine) const {
-        if (const auto value = uninstallOf(line)) settings.uninstallDefault = value;
+    std::optional<std::string> operator()(ZeroLine) const { return std::nullopt; }
+    std::optional<std::string> operator()(UninstallLine) const {
+        settings.uninstallDefault = uninstallOf(line);
+        if (settings.uninstallDefault) return std::nullopt;
+        return quoted() + " is none of FULLDEL, REGDEL and NONE; the option stays as it was";
     }
-    void operator()(UpdateModeLine) const {
-        if (const auto value = updateModeOf(line)) settings.updateInstallMode = value;
+    std::optional<std::string> operator()(UpdateModeLine) const {
+        settings.updateInstallMode = updateModeOf(line);
+        if (settings.updateInstallMode) return std::nullopt;
+        return quoted() + " is neither s nor i; the option stays as it was";
     }
+
+    std::string quoted() const { return "\"" + line + "\""; }
 };
+
+void note(DamagedLines* damaged, std::size_t line, std::string text) {
+    if (damaged) damaged->push_back({line, std::move(text)});
+}
 
 }  // namespace
 
@@ -165,11 +180,19 @@ bool writeMainSettings(Host& host, const std::string& path, const MainSettings& 
     return host.writeFileAtomic(path, mainSettingsText(settings));
 }
 
-std::optional<MainSettings> readMainSettings(Host& host, const std::string& path) {
-    const auto lines = readLines(host, path, kMainSettingsLines);
+std::optional<MainSettings> readMainSettings(Host& host, const std::string& path, DamagedLines* damaged) {
+    auto lines = readLines(host, path, kMainSettingsLines);
     if (!lines) return std::nullopt;
     MainSettings settings;
-    for (std::size_t i = 0; i < lines->size(); ++i) std::visit(LineReader{settings, (*lines)[i]}, kLines[i]);
+    for (std::size_t i = 0; i < lines->size(); ++i) {
+        if (removeControlBytes((*lines)[i])) note(damaged, i + 1, kControlBytesLeftOut);
+        if (auto trouble = std::visit(LineReader{settings, (*lines)[i]}, kLines[i]))
+            note(damaged, i + 1, std::move(*trouble));
+    }
+    if (lines->size() < kMainSettingsLines)
+        note(damaged, lines->size() + 1,
+             "missing, with every line after it up to " + std::to_string(kMainSettingsLines) +
+                 "; their fields keep their values");
     return settings;
 }
 

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "platform/Host.h"
+#include "project/LineFile.h"
 
 namespace orvanta {
 
@@ -74,8 +75,11 @@ inline constexpr std::size_t kMainSettingsLines = 49;
 std::string mainSettingsText(const MainSettings& settings);
 bool writeMainSettings(Host& host, const std::string& path, const MainSettings& settings);
 
-// What the loader takes from the file. Nothing if the file cannot be opened.
-std::optional<MainSettings> readMainSettings(Host& host, const std::string& path);
+// What the loader takes from the file. Nothing if the file cannot be opened. Control bytes are
+// dropped from every line; a number or word that does not read, a line that held control bytes
+// and the lines a short file lacks are noted in `damaged`, the fields concerned left unset.
+std::optional<MainSettings> readMainSettings(Host& host, const std::string& path,
+                                             DamagedLines* damaged = nullptr);
 
 // Line 13 that is exactly ".exe" or blank clears the check box beside the main executable;
 // ".EXE" does not.

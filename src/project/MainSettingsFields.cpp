@@ -14,64 +14,73 @@ using namespace ctrl;
 using TextMember = std::optional<std::string> MainSettings::*;
 using NumberMember = std::optional<int> MainSettings::*;
 
-struct TextBinding {
-    ControlName control;
-    TextMember member;
-};
-struct NumberBinding {
-    ControlName control;
-    NumberMember member;
+// How the loader applies a line. The option groups and the main executable's check box take
+// their turn at their own line, so rules that tie check boxes together run in file order.
+enum class Apply { Text, Number, ClearMainExecutableCheck, UninstallGroup, UpdateGroup };
+
+struct Binding {
+    Apply apply;
+    ControlName control = {};
+    TextMember text = nullptr;
+    NumberMember number = nullptr;
 };
 
-// In line order; the reader leaves the lines it reads over unset, so the loader skips them.
-const std::array<TextBinding, 19> kTexts = {{
-    {appName, &MainSettings::appName},
-    {appAuthor, &MainSettings::appAuthor},
-    {shortcutTooltip, &MainSettings::shortcutTooltip},
-    {website, &MainSettings::website},
-    {appSize, &MainSettings::appSize},
-    {mainExecutable, &MainSettings::mainExecutable},
-    {appVersion, &MainSettings::appVersion},
-    {installPath, &MainSettings::installPath},
-    {minWindowsVersion, &MainSettings::minWindowsVersion},
-    {licenseTitle, &MainSettings::licenseTitle},
-    {licenseButtonCaption, &MainSettings::licenseButtonCaption},
-    {anyFile, &MainSettings::anyFile},
-    {startupArguments, &MainSettings::startupArguments},
-    {supportLink, &MainSettings::supportLink},
-    {helpLink, &MainSettings::helpLink},
-    {updateInfoLink, &MainSettings::updateInfoLink},
-    {finalPackageName, &MainSettings::finalPackageName},
-    {shortcutArguments, &MainSettings::shortcutArguments},
-    {editionName, &MainSettings::editionName},
-}};
+constexpr Binding asText(ControlName control, TextMember member) {
+    return {Apply::Text, control, member, nullptr};
+}
+constexpr Binding asNumber(ControlName control, NumberMember member) {
+    return {Apply::Number, control, nullptr, member};
+}
 
-const std::array<NumberBinding, 25> kNumbers = {{
-    {startMenuShortcut, &MainSettings::startMenuShortcut},
-    {desktopShortcut, &MainSettings::desktopShortcut},
-    {startupOption, &MainSettings::startupOption},
-    {startupChecked, &MainSettings::startupChecked},
-    {quickLaunchShortcut, &MainSettings::quickLaunchShortcut},
-    {quickLaunchChecked, &MainSettings::quickLaunchChecked},
-    {noRepair, &MainSettings::noRepair},
-    {noModify, &MainSettings::noModify},
-    {rollEffect, &MainSettings::rollEffect},
-    {authorFolder, &MainSettings::authorFolder},
-    {instantInstall, &MainSettings::instantInstall},
-    {cleanAll, &MainSettings::cleanAll},
-    {lockInstallPath, &MainSettings::lockInstallPath},
-    {desktopChecked, &MainSettings::desktopChecked},
-    {startMenuChecked, &MainSettings::startMenuChecked},
-    {startupAllUsers, &MainSettings::startupAllUsers},
-    {startupRequired, &MainSettings::startupRequired},
-    {appIconOnRootFolder, &MainSettings::appIconOnRootFolder},
-    {noUninstaller, &MainSettings::noUninstaller},
-    {showEditionName, &MainSettings::showEditionName},
-    {justRunMode, &MainSettings::justRunMode},
-    {updateIgnoreLicense, &MainSettings::updateIgnoreLicense},
-    {updateRunApp, &MainSettings::updateRunApp},
-    {updateSilent, &MainSettings::updateSilent},
-    {createRestorePoint, &MainSettings::createRestorePoint},
+// In line order; the lines the reader reads over stay unset, so the loader skips them.
+const std::array<Binding, 47> kLineOrder = {{
+    asText(appName, &MainSettings::appName),
+    asText(appAuthor, &MainSettings::appAuthor),
+    asNumber(startMenuShortcut, &MainSettings::startMenuShortcut),
+    asNumber(desktopShortcut, &MainSettings::desktopShortcut),
+    asText(shortcutTooltip, &MainSettings::shortcutTooltip),
+    asNumber(startupOption, &MainSettings::startupOption),
+    asNumber(startupChecked, &MainSettings::startupChecked),
+    asText(website, &MainSettings::website),
+    asText(appSize, &MainSettings::appSize),
+    asNumber(quickLaunchShortcut, &MainSettings::quickLaunchShortcut),
+    asNumber(quickLaunchChecked, &MainSettings::quickLaunchChecked),
+    asText(mainExecutable, &MainSettings::mainExecutable),
+    {Apply::ClearMainExecutableCheck},
+    asNumber(noRepair, &MainSettings::noRepair),
+    asNumber(noModify, &MainSettings::noModify),
+    asText(appVersion, &MainSettings::appVersion),
+    asNumber(rollEffect, &MainSettings::rollEffect),
+    asText(installPath, &MainSettings::installPath),
+    asText(minWindowsVersion, &MainSettings::minWindowsVersion),
+    asNumber(authorFolder, &MainSettings::authorFolder),
+    asNumber(instantInstall, &MainSettings::instantInstall),
+    asText(licenseTitle, &MainSettings::licenseTitle),
+    asText(licenseButtonCaption, &MainSettings::licenseButtonCaption),
+    {Apply::UninstallGroup},
+    asNumber(cleanAll, &MainSettings::cleanAll),
+    asText(anyFile, &MainSettings::anyFile),
+    asNumber(lockInstallPath, &MainSettings::lockInstallPath),
+    asNumber(desktopChecked, &MainSettings::desktopChecked),
+    asNumber(startMenuChecked, &MainSettings::startMenuChecked),
+    asText(startupArguments, &MainSettings::startupArguments),
+    asNumber(startupAllUsers, &MainSettings::startupAllUsers),
+    asText(supportLink, &MainSettings::supportLink),
+    asText(helpLink, &MainSettings::helpLink),
+    asText(updateInfoLink, &MainSettings::updateInfoLink),
+    asText(finalPackageName, &MainSettings::finalPackageName),
+    asText(shortcutArguments, &MainSettings::shortcutArguments),
+    asNumber(startupRequired, &MainSettings::startupRequired),
+    asNumber(appIconOnRootFolder, &MainSettings::appIconOnRootFolder),
+    asNumber(noUninstaller, &MainSettings::noUninstaller),
+    asText(editionName, &MainSettings::editionName),
+    asNumber(showEditionName, &MainSettings::showEditionName),
+    asNumber(justRunMode, &MainSettings::justRunMode),
+    {Apply::UpdateGroup},
+    asNumber(updateIgnoreLicense, &MainSettings::updateIgnoreLicense),
+    asNumber(updateRunApp, &MainSettings::updateRunApp),
+    asNumber(updateSilent, &MainSettings::updateSilent),
+    asNumber(createRestorePoint, &MainSettings::createRestorePoint),
 }};
 
 std::optional<UninstallDefault> uninstallDefaultOf(const ProjectFields& fields) {
@@ -125,12 +134,36 @@ void takeUpdateMode(ProjectFields& fields, UpdateInstallMode mode) {
     fields.setEnabled(updateRunApp, true);
 }
 
+void applyLine(ProjectFields& fields, const MainSettings& settings, const Binding& binding) {
+    switch (binding.apply) {
+        case Apply::Text:
+            if (const auto& value = settings.*binding.text) takeText(fields, binding.control, *value);
+            return;
+        case Apply::Number:
+            if (const auto& value = settings.*binding.number) takeFlag(fields, binding.control, *value);
+            return;
+        case Apply::ClearMainExecutableCheck:
+            // The only place that clears the check box on load; nothing here sets it.
+            if (settings.mainExecutable && mainExecutableClearsCheck(*settings.mainExecutable))
+                fields.setValue(Check23, 0);
+            return;
+        case Apply::UninstallGroup:
+            if (settings.uninstallDefault) fields.setValue(optionOf(*settings.uninstallDefault), 1);
+            return;
+        case Apply::UpdateGroup:
+            if (settings.updateInstallMode) takeUpdateMode(fields, *settings.updateInstallMode);
+            return;
+    }
+}
+
 }  // namespace
 
 MainSettings mainSettingsOf(const ProjectFields& fields, bool anyFileExists) {
     MainSettings settings;
-    for (const auto& binding : kTexts) settings.*binding.member = storedText(fields, binding.control);
-    for (const auto& binding : kNumbers) settings.*binding.member = fields.value(binding.control);
+    for (const auto& binding : kLineOrder) {
+        if (binding.apply == Apply::Text) settings.*binding.text = storedText(fields, binding.control);
+        if (binding.apply == Apply::Number) settings.*binding.number = fields.value(binding.control);
+    }
     settings.fullLicenseSlot = "";
     if (!anyFileExists) settings.anyFile = "";
     settings.uninstallDefault = uninstallDefaultOf(fields);
@@ -139,19 +172,7 @@ MainSettings mainSettingsOf(const ProjectFields& fields, bool anyFileExists) {
 }
 
 void applyMainSettings(ProjectFields& fields, const MainSettings& settings) {
-    for (const auto& binding : kTexts)
-        if (const auto& text = settings.*binding.member)
-            skipOnFailure([&] { takeText(fields, binding.control, *text); });
-    for (const auto& binding : kNumbers)
-        if (const auto& value = settings.*binding.member)
-            skipOnFailure([&] { takeFlag(fields, binding.control, *value); });
-    // The only place that clears the check box on load; nothing here sets it.
-    if (settings.mainExecutable && mainExecutableClearsCheck(*settings.mainExecutable))
-        skipOnFailure([&] { fields.setValue(Check23, 0); });
-    if (settings.uninstallDefault)
-        skipOnFailure([&] { fields.setValue(optionOf(*settings.uninstallDefault), 1); });
-    if (settings.updateInstallMode)
-        skipOnFailure([&] { takeUpdateMode(fields, *settings.updateInstallMode); });
+    for (const auto& binding : kLineOrder) skipOnFailure([&] { applyLine(fields, settings, binding); });
     skipOnFailure([&] {
         if (!fields.text(anyFile).empty()) fields.setEnabled(Command38, true);
     });

@@ -239,6 +239,7 @@ void MemoryProjectFields::showStatus(StatusLabel label, const std::string& text)
 
 void MemoryProjectFields::processPendingEvents() {
     journal_.push_back("events");
+    if (onPendingEvents) onPendingEvents();
 }
 
 const std::string& MemoryProjectFields::status(StatusLabel label) const {

@@ -6,6 +6,7 @@
 // and refused with std::out_of_range, so a misspelt name cannot pass for a working control.
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -71,6 +72,9 @@ public:
     // which pending events ran, in order.
     const std::vector<std::string>& journal() const { return journal_; }
     const std::vector<std::string>& unknownNames() const { return unknownNames_; }
+
+    // Runs where a window would let pending events run: what a click at that moment would do.
+    std::function<void()> onPendingEvents;
 
 private:
     void addDefaults();

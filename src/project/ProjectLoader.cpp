@@ -1,17 +1,22 @@
 #include "project/ProjectLoader.h"
 
+#include <map>
 #include <string_view>
 
 #include "core/commonFunctions.h"
+#include "core/vars.h"
+#include "platform/WindowsPath.h"
 #include "project/ContentList.h"
 #include "project/DependencyList.h"
 #include "project/EditorControls.h"
 #include "project/FontList.h"
 #include "project/InstallerLists.h"
+#include "project/LeftoverTemporaries.h"
 #include "project/LocationList.h"
 #include "project/MainSettingsFields.h"
 #include "project/PackageTables.h"
 #include "project/ProjectPaths.h"
+#include "project/SettingsSets.h"
 #include "project/SkipFailures.h"
 #include "project/TextFile.h"
 #include "project/UninstallOptions.h"
@@ -29,7 +34,13 @@ constexpr const char* kMainSettingsMissing =
 class ProjectLoader {
 public:
     ProjectLoader(EditorContext& context, const std::string& folder)
-        : host_(context.host), dialogs_(context.dialogs), fields_(context.fields), folder_(folder) {}
+        : host_(context.host),
+          dialogs_(context.dialogs),
+          fields_(context.fields),
+          folder_(folder),
+          root_(projectRootOf(folder, [this](const std::string& candidate) {
+              return fileExists(host_, inFolder(candidate, kMainSettings)) == kTrue;
+          })) {}
 
     LoadOutcome run() {
         setUp();
@@ -39,8 +50,11 @@ public:
         readTexts();
         readLists();
         readPackages();
+        skipOnFailure([&] { readSettingsSets(host_, folder_, settingsSets); });
         loadImages();
         finish();
+        reportDamage();
+        reportForeignName();
         return LoadOutcome::Loaded;
     }
 
@@ -57,6 +71,7 @@ private:
 
     // Failures here are not skipped: the caller hears of them before anything was read.
     void setUp() {
+        removeLeftoverTemporaries(host_, root_, folder_);
         fields_.setText(workingFolder, folder_);
         fields_.showStatus(StatusLabel::ControlTips, "Loading...");
         fields_.setEnabled(mainfrm, false);
@@ -64,7 +79,7 @@ private:
 
     LoadOutcome readMainSettingsFile() {
         const std::string file = path(kMainSettings);
-        const auto settings = readMainSettings(host_, file);
+        const auto settings = readMainSettings(host_, file, &damage(kMainSettings));
         if (!settings) return reportUnopened(file);
         applyMainSettings(fields_, *settings);
         return LoadOutcome::Loaded;
@@ -82,7 +97,7 @@ private:
 
     void readText(ControlName box, std::string_view name) {
         skipOnFailure([&] {
-            if (const auto text = readTextFile(host_, path(name))) fields_.setText(box, *text);
+            if (const auto text = readTextFile(host_, path(name), &damage(name))) fields_.setText(box, *text);
         });
     }
 
@@ -125,7 +140,7 @@ private:
 
     void applyList(ControlName list, const ListUpdate& update) {
         if (update.action == ListAction::Keep) return;
-        if (update.action == ListAction::Replace) fields_.clearList(list);
+        fields_.clearList(list);
         fields_.addListItems(list, update.items);
     }
 
@@ -197,15 +212,52 @@ private:
         });
     }
 
+    DamagedLines& damage(std::string_view file) { return damaged_[std::string(file)]; }
+
+    // One message for the whole load, file by file, line by line.
+    void reportDamage() {
+        std::string text;
+        for (const auto& [file, lines] : damaged_) {
+            if (lines.empty()) continue;
+            text += "\r\n" + path(file) + ":";
+            for (const auto& line : lines)
+                text += "\r\n  line " + std::to_string(line.line) + ": " + line.note;
+        }
+        if (text.empty()) return;
+        dialogs_.messageBox({"Some settings of the project are damaged and could not be read as they stand." +
+                                 text + "\r\nSaving the project keeps what the editor shows now.",
+                             MessageButtons::Ok, MessageIcon::Exclamation, "Orvanta"});
+    }
+
+    // A hand-copied folder keeps the name of the project it was copied from; saving writes into
+    // this folder all the same, the marker named after the project's name.
+    void reportForeignName() {
+        const std::string name = fields_.text(appName);
+        if (toLowerAscii(name) == toLowerAscii(lastComponentOf(root_))) return;
+        dialogs_.messageBox({"The folder \"" + root_ + "\" holds the project \"" + name +
+                                 "\", whose own folder is \"" + projectRoot(vars::workspaceFolder, name) +
+                                 "\".\r\nSaving writes only into \"" + root_ + "\", with the marker file \"" +
+                                 markerName(name) + "\" there.",
+                             MessageButtons::Ok, MessageIcon::Information, "Orvanta"});
+    }
+
     Host& host_;
     Dialogs& dialogs_;
     ProjectFields& fields_;
     const std::string folder_;
+    const std::string root_;
+    std::map<std::string, DamagedLines> damaged_;
 };
 
 }  // namespace
 
 LoadOutcome loadProject(EditorContext& context, const std::string& folder) {
+    const ProjectTask task;
+    if (!task.running()) return LoadOutcome::Refused;
+    return loadProject(context, folder, task);
+}
+
+LoadOutcome loadProject(EditorContext& context, const std::string& folder, const ProjectTask&) {
     return ProjectLoader(context, folder).run();
 }
 

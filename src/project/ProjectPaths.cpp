@@ -1,5 +1,9 @@
 #include "project/ProjectPaths.h"
 
+#include <optional>
+
+#include "platform/WindowsPath.h"
+
 namespace orvanta {
 
 std::string inFolder(std::string_view folder, std::string_view name) {
@@ -44,6 +48,37 @@ std::string editionWorkingSet(std::string_view projectRoot, std::string_view edi
 std::string versionWorkingSet(std::string_view projectRoot, std::string_view version,
                               std::string_view edition) {
     return inFolder(inFolder(inFolder(projectRoot, projectfolder::kVersions), version), edition);
+}
+
+namespace {
+
+// The path without its last n components; nothing if it has fewer, or if the component above
+// them is not `expected` (compared ignoring case).
+std::optional<std::string> above(std::string_view path, int n, std::string_view expected) {
+    for (int i = 0; i < n; ++i) {
+        const auto cut = path.rfind('\\');
+        if (cut == std::string_view::npos) return std::nullopt;
+        path = path.substr(0, cut);
+    }
+    if (toLowerAscii(lastComponentOf(path)) != expected) return std::nullopt;
+    const auto cut = path.rfind('\\');
+    if (cut == std::string_view::npos) return std::nullopt;
+    return std::string(path.substr(0, cut));
+}
+
+}  // namespace
+
+std::string lastComponentOf(std::string_view path) {
+    const auto cut = path.rfind('\\');
+    return std::string(cut == std::string_view::npos ? path : path.substr(cut + 1));
+}
+
+std::string projectRootOf(std::string_view workingSet,
+                          const std::function<bool(const std::string&)>& isProjectRoot) {
+    for (const auto& candidate :
+         {above(workingSet, 1, projectfolder::kEditions), above(workingSet, 2, projectfolder::kVersions)})
+        if (candidate && isProjectRoot(*candidate)) return *candidate;
+    return std::string(workingSet);
 }
 
 std::string versionFilesFolder(std::string_view workingSet, std::string_view version) {

@@ -2,6 +2,7 @@
 // Where a project's pieces lie. The only place that knows the names of the workspace entries,
 // the project files and the folders of a working set.
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,6 @@ inline constexpr std::string_view kLogo = "logo.png";
 inline constexpr std::string_view kPreview = "preview.png";
 inline constexpr std::string_view kMarkerExtension = ".ovproj";
 inline constexpr std::string_view kRecordExtension = ".hsh";
-inline constexpr std::string_view kRecordDraft = "hash.hsh";
 }  // namespace projectfile
 
 namespace projectfolder {
@@ -71,6 +71,13 @@ std::string markerPath(std::string_view folder, std::string_view appName);
 std::string editionWorkingSet(std::string_view projectRoot, std::string_view edition);
 std::string versionWorkingSet(std::string_view projectRoot, std::string_view version,
                               std::string_view edition);
+// The project root a working set lies in: the part above "\editions\<e>" or "\versions\<v>\<e>"
+// when `isProjectRoot` accepts it, else the working set itself. A save writes only below it, so
+// a hand-copied project folder never writes into the folder it was copied from.
+std::string projectRootOf(std::string_view workingSet,
+                          const std::function<bool(const std::string&)>& isProjectRoot);
+// The last component of a path.
+std::string lastComponentOf(std::string_view path);
 // "\v<version>": the application's files of one version, beside "\files".
 std::string versionFilesFolder(std::string_view workingSet, std::string_view version);
 

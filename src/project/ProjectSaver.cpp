@@ -15,6 +15,7 @@
 #include "project/FontFolderScan.h"
 #include "project/FontList.h"
 #include "project/IntegrityRecord.h"
+#include "project/LeftoverTemporaries.h"
 #include "project/LocationList.h"
 #include "project/MainSettingsFields.h"
 #include "project/MarkerFile.h"
@@ -65,8 +66,10 @@ public:
           random_(context.random ? context.random : timerSeededRandom(context.host)),
           appName_(fields_.text(ctrl::appName)),
           workingSet_(fields_.text(workingFolder)),
-          root_(projectRoot(vars::workspaceFolder, appName_)),
-          filesBase_(applicationFilesBase(vars::workspaceFolder, appName_)) {}
+          root_(projectRootOf(
+              workingSet_,
+              [this](const std::string& folder) { return exists(inFolder(folder, kMainSettings)); })),
+          filesBase_(inFolder(root_, projectfolder::kFiles)) {}
 
     // Everything up to the free texts; a file that cannot be written throws RuntimeError.
     void writeFiles() {
@@ -106,6 +109,7 @@ private:
     // there is no walk of their folder to fill one.
     void prepare() {
         fields_.showStatus(StatusLabel::ControlTips, "Saving project...");
+        removeLeftoverTemporaries(host_, root_, workingSet_);
         lists_ = refreshedLists(host_, filesBase_);
         const std::string ownFiles = path(projectfolder::kFiles);
         fields_.setText(appSize,
@@ -121,8 +125,6 @@ private:
         const MainSettings settings = mainSettingsOf(fields_, !any.empty() && exists(path(any)));
         vars::finalPackageFile = finalPackageFileOf(*settings.finalPackageName, *settings.appVersion);
         must(writeMainSettings(host_, path(kMainSettings), settings), path(kMainSettings));
-        const std::string index = settingsSetIndexFile(workingSet_);
-        if (settingsSets.names[0].empty() && exists(index)) must(host_.deleteFile(index), index);
     }
 
     void writeLists() {
@@ -165,8 +167,11 @@ private:
     void writeLocations() {
         write(kRegistryLocations, writeLocationList, textsOf(fields_.listItems(registryLocations)));
         createFolderIfMissing(path(projectfolder::kSettingsSet));
+        // Replaced in place: a save stopped at any point leaves it there.
         const std::string index = settingsSetIndexFile(workingSet_);
         must(host_.writeFileAtomic(index, ""), index);
+        if (const auto failed = writeSettingsSets(host_, workingSet_, settingsSets))
+            throw RuntimeError(kErrorNumberPathFileAccess, "Path/File access error (" + *failed + ")");
         write(kAppDataLocations, writeLocationList, textsOf(fields_.listItems(appDataLocations)));
     }
 
@@ -182,7 +187,7 @@ private:
         const std::string executable = fields_.text(mainExecutable);
         const std::string ini = inFolder(root_, kDesktopIni);
         if (executable == ".exe" || host_.fileAttributes(ini)) return;
-        writeDesktopIni(host_, ini, desktopIniIconPath(vars::workspaceFolder, appName_, executable));
+        writeDesktopIni(host_, ini, inFolder(filesBase_, executable));
         host_.setFileAttributes(ini, kAttributeHidden | kAttributeSystem);
         host_.startProcess("attrib +r \"" + root_ + "\"", kWindowHidden);
     }
@@ -195,7 +200,8 @@ private:
         inputs.mainExecutable = fields_.text(mainExecutable);
         inputs.mainExecutableChecked = fields_.value(Check23) == 1;
         inputs.appVersion = fields_.text(appVersion);
-        inputs.settingsSetTypes = settingsSets.types;
+        for (std::size_t i = 0; i < inputs.settingsSetTypes.size(); ++i)
+            inputs.settingsSetTypes[i] = settingsSets.sets[i].type;
         writeIntegrityRecord(host_, inputs, random_);
     }
 
@@ -229,6 +235,12 @@ DialogAnswer askRetry(Dialogs& dialogs, const RuntimeError& error) {
 }  // namespace
 
 SaveOutcome project_saver(EditorContext& context) {
+    const ProjectTask task;
+    if (!task.running()) return SaveOutcome::Refused;
+    return project_saver(context, task);
+}
+
+SaveOutcome project_saver(EditorContext& context, const ProjectTask&) {
     while (true) {
         try {
             ProjectSaver(context).writeFiles();

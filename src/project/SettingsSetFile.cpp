@@ -4,18 +4,25 @@
 
 namespace orvanta {
 
-std::string settingsSetFileText(const std::string& memberFile) {
-    return linesText({memberFile});
+namespace {
+constexpr std::size_t kSettingsSetLines = 3;
+}  // namespace
+
+std::string settingsSetFileText(const SettingsSet& set) {
+    return linesText({set.member, set.name, set.type});
 }
 
-bool writeSettingsSetFile(Host& host, const std::string& path, const std::string& memberFile) {
-    return host.writeFileAtomic(path, settingsSetFileText(memberFile));
+bool writeSettingsSetFile(Host& host, const std::string& path, const SettingsSet& set) {
+    return host.writeFileAtomic(path, settingsSetFileText(set));
 }
 
-std::optional<std::string> readSettingsSetMember(Host& host, const std::string& path) {
-    const auto lines = readLines(host, path, 1);
+std::optional<SettingsSet> readSettingsSetFile(Host& host, const std::string& path) {
+    auto lines = readLines(host, path, kSettingsSetLines);
     if (!lines) return std::nullopt;
-    return lines->empty() ? std::string() : lines->front();
+    lines->resize(kSettingsSetLines);
+    SettingsSet set{(*lines)[0], (*lines)[1], (*lines)[2]};
+    if (set.name.empty()) set.name = set.member;
+    return set;
 }
 
 bool isRecordedSettingsSetType(const std::string& type) {

@@ -1,6 +1,7 @@
 #pragma once
-// "\settingsset\<i>.cfg": its first line names a file in "\settingsset" that belongs to settings
-// set i. What follows that line is the settings editor's own.
+// "\settingsset\<i>.cfg": the first line names the file in "\settingsset" that belongs to settings
+// set i (the line the integrity record follows); the second holds the set's name, the third its
+// type ("REG", "REGFILE" or "EXE").
 
 #include <optional>
 #include <string>
@@ -11,10 +12,19 @@ namespace orvanta {
 
 inline constexpr int kSettingsSetCount = 5;
 
-std::string settingsSetFileText(const std::string& memberFile);
-bool writeSettingsSetFile(Host& host, const std::string& path, const std::string& memberFile);
-// The first line (empty for an empty file); nothing if the file cannot be opened.
-std::optional<std::string> readSettingsSetMember(Host& host, const std::string& path);
+struct SettingsSet {
+    std::string member;  // a file name in "\settingsset"
+    std::string name;    // empty: the set is unused
+    std::string type;
+
+    friend bool operator==(const SettingsSet&, const SettingsSet&) = default;
+};
+
+std::string settingsSetFileText(const SettingsSet& set);
+bool writeSettingsSetFile(Host& host, const std::string& path, const SettingsSet& set);
+// Lines the file lacks read as empty; a file of one line (a member only) names its set after the
+// member, so the set stays in use. Nothing if the file cannot be opened.
+std::optional<SettingsSet> readSettingsSetFile(Host& host, const std::string& path);
 
 // The types that make a settings set count for the integrity record.
 bool isRecordedSettingsSetType(const std::string& type);

@@ -8,12 +8,14 @@
 #include <string>
 
 #include "platform/Host.h"
+#include "project/LineFile.h"
 
 namespace orvanta {
 
 std::string textFileContent(const std::string& text);
 bool writeTextFile(Host& host, const std::string& path, const std::string& text);
-// Nothing if the file cannot be opened; the field then keeps its value.
-std::optional<std::string> readTextFile(Host& host, const std::string& path);
+// Nothing if the file cannot be opened; the field then keeps its value. Lines that held control
+// bytes are read without them and noted in `damaged`.
+std::optional<std::string> readTextFile(Host& host, const std::string& path, DamagedLines* damaged = nullptr);
 
 }  // namespace orvanta

@@ -34,17 +34,6 @@ TEST(ReadLines, SplitsCrLfAndLoneLfAndKeepsTextAfterTheLastLineEnd) {
     EXPECT_FALSE(readLines(box.host(), box.windowsPath("missing.txt"), 10));
 }
 
-TEST(ReadLines, StopsAtTheBufferSizeOfALongFile) {
-    testing::Sandbox box;
-    std::string text;
-    for (int i = 0; i < 200'000; ++i) appendLine(text, std::to_string(i));
-    box.writeFile("files.cfg", text);
-    const auto lines = readLines(box.host(), box.windowsPath("files.cfg"), kContentListLines);
-    ASSERT_TRUE(lines);
-    ASSERT_EQ(lines->size(), kContentListLines);
-    EXPECT_EQ(lines->back(), "100000");
-}
-
 TEST(NumberText, WritesBlanksAroundAndReadsBothForms) {
     EXPECT_EQ(numberLine(1), " 1 ");
     EXPECT_EQ(numberLine(0), " 0 ");

@@ -5,6 +5,7 @@
 #include "project/DesktopIni.h"
 #include "project/FontList.h"
 #include "project/InstallerLists.h"
+#include "project/LeftoverTemporaries.h"
 #include "project/LineFile.h"
 #include "project/LocationList.h"
 #include "project/MarkerFile.h"
@@ -34,16 +35,6 @@ TEST(TextFiles, DoNotGrowOverSaveAndLoadAndKeepAnEmptyLastLine) {
     ASSERT_TRUE(writeTextFile(host, path, "a\r\nb"));
     EXPECT_EQ(box.readFile("intro.cfg"), "a\r\nb\r\n");
     EXPECT_FALSE(readTextFile(host, box.windowsPath("missing.cfg")));
-}
-
-TEST(TextFiles, ReadAtMostFiftyOneLines) {
-    testing::Sandbox box;
-    Items lines;
-    for (int i = 0; i < 60; ++i) lines.push_back(std::to_string(i));
-    box.writeFile("tips.cfg", linesText(lines));
-    const auto text = readTextFile(box.host(), box.windowsPath("tips.cfg"));
-    ASSERT_TRUE(text);
-    EXPECT_TRUE(text->ends_with("\r\n50"));
 }
 
 TEST(LocationLists, AnEmptyListIsWrittenAsAMarkThatKeepsTheList) {
@@ -78,22 +69,18 @@ TEST(FontLists, AnEmptyFileClearsAndTheMarkKeeps) {
     box.writeFile("fonts.cfg", "<>\r\n");
     applyListUpdate(readFontList(host, path), list);
     EXPECT_EQ(list, Items{"old.ttf"});
-
-    Items many;
-    for (int i = 0; i < 80; ++i) many.push_back("f" + std::to_string(i) + ".ttf");
-    ASSERT_TRUE(writeFontList(host, path, many));
-    EXPECT_EQ(readFontList(host, path).items.size(), kShortListLines);
 }
 
-TEST(ContentLists, AreAppendedAndCutAtTheirBuffer) {
+TEST(ContentLists, ReplaceTheListEvenWhenTheFileIsMissing) {
     testing::Sandbox box;
     Host& host = box.host();
     ASSERT_TRUE(writeContentList(host, box.windowsPath("files.cfg"), {"a.exe", "sub\\b.dll"}));
     EXPECT_EQ(box.readFile("files.cfg"), "a.exe\r\nsub\\b.dll\r\n");
     Items list = {"earlier.txt"};
     applyListUpdate(readContentList(host, box.windowsPath("files.cfg")), list);
-    EXPECT_EQ(list, (Items{"earlier.txt", "a.exe", "sub\\b.dll"}));
-    EXPECT_EQ(readContentList(host, box.windowsPath("missing.cfg")).action, ListAction::Keep);
+    EXPECT_EQ(list, (Items{"a.exe", "sub\\b.dll"}));
+    applyListUpdate(readContentList(host, box.windowsPath("missing.cfg")), list);
+    EXPECT_TRUE(list.empty());
 }
 
 TEST(DependencyLists, WriteNameAndBlankedFlagAndReadEitherFlagForm) {
@@ -114,11 +101,6 @@ TEST(DependencyLists, WriteNameAndBlankedFlagAndReadEitherFlagForm) {
     EXPECT_TRUE(odd[0].selected);
     EXPECT_FALSE(odd[1].selected);
     EXPECT_EQ(odd[2].name, "e.dll");
-
-    std::string many;
-    for (int i = 0; i < 150; ++i) many += "x.dll\r\n 1 \r\n";
-    box.writeFile("dependencies.cfg", many);
-    EXPECT_EQ(readDependencyList(host, path).size(), kDependencyPairs);
 }
 
 TEST(PackageLists, SevenLinesAPackageWithBareFlags) {
@@ -147,11 +129,6 @@ TEST(PackageLists, ACutBlockCountsAndKeepsTheOldFieldsOfItsSlot) {
     EXPECT_EQ(slots[1].installLocation, "oldloc");
     EXPECT_EQ(slots[2].name, "old");
     EXPECT_FALSE(readPackageList(host, box.windowsPath("missing.cfg"), slots));
-
-    std::string huge;
-    for (int i = 0; i < 1200; ++i) huge += "p\r\nl\r\nd\r\n0\r\n0\r\n0\r\n0\r\n";
-    box.writeFile("packages.cfg", huge);
-    EXPECT_EQ(readPackageList(host, box.windowsPath("packages.cfg"), slots), kPackageSlots);
 }
 
 TEST(SmallFiles, MarkerSettingsSetDesktopIniAndInstallerLists) {
@@ -163,11 +140,13 @@ TEST(SmallFiles, MarkerSettingsSetDesktopIniAndInstallerLists) {
     box.writeFile("short.ovproj", "Only");
     EXPECT_EQ(readMarker(host, box.windowsPath("short.ovproj"))->lastWord, "");
 
-    ASSERT_TRUE(writeSettingsSetFile(host, box.windowsPath("0.cfg"), "keys.reg"));
-    EXPECT_EQ(box.readFile("0.cfg"), "keys.reg\r\n");
-    EXPECT_EQ(readSettingsSetMember(host, box.windowsPath("0.cfg")), "keys.reg");
-    box.writeFile("1.cfg", "");
-    EXPECT_EQ(readSettingsSetMember(host, box.windowsPath("1.cfg")), "");
+    const SettingsSet set{"keys.reg", "File types", "REG"};
+    ASSERT_TRUE(writeSettingsSetFile(host, box.windowsPath("0.cfg"), set));
+    EXPECT_EQ(box.readFile("0.cfg"), "keys.reg\r\nFile types\r\nREG\r\n");
+    EXPECT_EQ(readSettingsSetFile(host, box.windowsPath("0.cfg")), set);
+    box.writeFile("1.cfg", "old.reg");
+    EXPECT_EQ(readSettingsSetFile(host, box.windowsPath("1.cfg")), (SettingsSet{"old.reg", "old.reg", ""}))
+        << "a file of the member alone keeps its set in use";
 
     const std::string icon = desktopIniIconPath("C:\\Orvanta", "Demo", "demo.exe");
     EXPECT_EQ(icon, "C:\\Orvanta\\myinstallers\\Demo\\files\\demo.exe");
@@ -179,6 +158,18 @@ TEST(SmallFiles, MarkerSettingsSetDesktopIniAndInstallerLists) {
     EXPECT_FALSE(skimInstallerList(host, box.windowsPath("msi.cfg")));
     box.writeFile("msi.cfg", std::string(100000, '\n'));
     EXPECT_TRUE(skimInstallerList(host, box.windowsPath("msi.cfg")));
+}
+
+// The POSIX host's temporaries and the Windows host's (GetTempFileName with the prefix "ovt").
+TEST(LeftoverTemporaries, AreKnownByEitherHostsNames) {
+    for (const auto& [name, leftover] : {std::pair{"mainsettings.cfg.~ovtmp-a1B2c3", true},
+                                         {"ovt1A2F.tmp", true},
+                                         {"OVTFFFF.TMP", true},
+                                         {"ovt.tmp", false},
+                                         {"ovtx1.tmp", false},
+                                         {"overtime.tmp", false},
+                                         {"notes.~ovtmp", false}})
+        EXPECT_EQ(isLeftoverTemporary(name), leftover) << name;
 }
 
 }  // namespace

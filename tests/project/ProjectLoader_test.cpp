@@ -1,6 +1,8 @@
 #include <random>
+#include <stdexcept>
 
 #include "EditorFixture.h"
+#include "project/SkipFailures.h"
 
 namespace orvanta {
 namespace {
@@ -78,9 +80,28 @@ TEST_F(ProjectLoaderTest, AMainSettingsFileThatCannotBeOpenedStopsTheLoad) {
 TEST_F(ProjectLoaderTest, LinesReadOverOrTakenApart) {
     fields->setValue(Option2, 1);
     fields->setValue(startMenuShortcut, 1);
-    writeSettings(
-        {{3, "x"}, {13, " "}, {24, "WHATEVER"}, {26, "readme.txt"}, {32, "http://support"}, {44, "i"}});
+    writeSettings({{2, "AnnAuthor"},
+                   {3, "x"},
+                   {13, " "},
+                   {24, "WHATEVER"},
+                   {26, "readme.txt"},
+                   {32, "http://support"},
+                   {44, "i"}});
+    std::string damaged = box.readFile(rel("mainsettings.cfg"));
+    damaged.replace(damaged.find("AnnAuthor"), 9, std::string("Ann\0Author\x01", 11));
+    box.writeFile(rel("mainsettings.cfg"), damaged);
+    box.writeFile(rel("intro.cfg"), std::string("one\r\nt\0wo\r\n", 11));
     load();
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u) << "one message for all the damage";
+    EXPECT_EQ(
+        dialogs.messageBoxes[0].text,
+        "Some settings of the project are damaged and could not be read as they stand.\r\n" + root +
+            "\\intro.cfg:\r\n  line 2: control characters left out\r\n" + root +
+            "\\mainsettings.cfg:\r\n  line 2: control characters left out\r\n  line 3: \"x\" is no number; "
+            "the field keeps its value\r\n  line 24: \"WHATEVER\" is none of FULLDEL, REGDEL and NONE; the "
+            "option stays as it was\r\nSaving the project keeps what the editor shows now.");
+    EXPECT_EQ(fields->text(appAuthor), "AnnAuthor");
+    EXPECT_EQ(fields->text(introText), "one\r\ntwo");
     EXPECT_EQ(fields->value(startMenuShortcut), 1) << "a flag that is no number keeps the box";
     EXPECT_EQ(fields->value(Check23), 0) << "a blank executable name";
     EXPECT_EQ(fields->value(Option2), 1) << "an unknown word selects nothing";
@@ -116,14 +137,14 @@ TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
     EXPECT_FALSE(fields->enabled(Option1)) << "no application data locations to delete";
     EXPECT_TRUE(fields->enabled(Option2));
     EXPECT_EQ(fields->listCount(fonts), 0u);
-    EXPECT_EQ(fields->listItems(files), (Items{{"old.exe"}, {"a.exe"}}));
+    EXPECT_EQ(fields->listItems(files), (Items{{"a.exe"}}));
     EXPECT_EQ(fields->listItems(dependencies), (Items{{"x.ocx", true}, {"y.dll", false}}));
 
     box.writeFile(rel("fonts.cfg"), "<>\r\n");
     fields->addListItems(fonts, {"kept.ttf"});
     load();
     EXPECT_EQ(fields->listItems(fonts), (Items{{"kept.ttf"}}));
-    EXPECT_EQ(fields->listCount(files), 3u) << "a second load adds again";
+    EXPECT_EQ(fields->listItems(files), (Items{{"a.exe"}})) << "a second load lists each file once";
 }
 
 TEST_F(ProjectLoaderTest, PackagesLogoAndLicenceSwitchTheirControls) {
@@ -149,7 +170,8 @@ TEST_F(ProjectLoaderTest, PackagesLogoAndLicenceSwitchTheirControls) {
     EXPECT_TRUE(fields->enabled(Command41));
 }
 
-TEST_F(ProjectLoaderTest, DamagedFilesNeverStopTheLoad) {
+// Whatever the files held, no control byte comes back in a saved file but the CR LF of line ends.
+TEST_F(ProjectLoaderTest, DamagedFilesNeverStopTheLoadAndAreSavedClean) {
     std::mt19937 random(7);
     const char* names[] = {
         "mainsettings.cfg", "intro.cfg",       "tips.cfg",    "slicense.txt", "registrylocations.cfg",
@@ -163,9 +185,56 @@ TEST_F(ProjectLoaderTest, DamagedFilesNeverStopTheLoad) {
             box.writeFile(rel(name), bytes);
         }
         fields = freshEditor();
+        dialogs.messageBoxes.clear();
         EXPECT_EQ(load(), LoadOutcome::Loaded) << round;
         EXPECT_TRUE(fields->visible(mainfrm));
+        EXPECT_EQ(std::count_if(dialogs.messageBoxes.begin(), dialogs.messageBoxes.end(),
+                                [](const auto& asked) { return asked.text.starts_with("Some settings"); }),
+                  1);
+        fields->setText(appName, "Demo");  // a name no folder can hold is another story
+        ASSERT_EQ(save(), SaveOutcome::Saved) << round;
+        for (const auto& entry : box.host().listDirectory(root + "\\*", false)) {
+            if (entry.name == "1.jpg" || entry.name == "logo.png" ||
+                entry.name.ends_with("executables.cfg") || entry.name == "msi.cfg" ||
+                entry.name == "packages.cfg")
+                continue;  // not written by the save
+            const std::string bytes = box.readFile(rel(entry.name));
+            for (std::size_t i = 0; i < bytes.size(); ++i) {
+                const bool lineEnd = (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ||
+                                     (bytes[i] == '\n' && i > 0 && bytes[i - 1] == '\r');
+                ASSERT_TRUE(static_cast<unsigned char>(bytes[i]) >= 0x20 || lineEnd)
+                    << entry.name << " byte " << i << " round " << round;
+            }
+        }
     }
+}
+
+// The window ties the desktop shortcut to its "checked" box and to the main executable's box;
+// the loader must leave them as the file's line order does.
+class RuledFields : public MemoryProjectFields {
+public:
+    using MemoryProjectFields::MemoryProjectFields;
+    void setValue(ControlName control, int value) override {
+        MemoryProjectFields::setValue(control, value);
+        if (control == Check23 && value == 0) {
+            MemoryProjectFields::setValue(desktopShortcut, 0);
+            MemoryProjectFields::setValue(desktopChecked, 0);
+        }
+        if (control == desktopChecked && value == 1) MemoryProjectFields::setValue(desktopShortcut, 1);
+    }
+};
+
+TEST_F(ProjectLoaderTest, ValuesAreAppliedInLineOrder) {
+    writeSettings({{4, " 1 "}, {13, ".exe"}, {28, " 1 "}});
+    RuledFields ruled(&box.host());
+    ASSERT_EQ(load(ruled), LoadOutcome::Loaded);
+    EXPECT_EQ(ruled.value(desktopChecked), 1) << "line 28 comes after the executable's line 13";
+    EXPECT_EQ(ruled.value(desktopShortcut), 1);
+}
+
+TEST(SkipOnFailure, DropsRunTimeErrorsAndLetsProgrammingErrorsThrough) {
+    EXPECT_NO_THROW(skipOnFailure([] { throw RuntimeError(kErrorNumberFileNotFound, "File not found"); }));
+    EXPECT_THROW(skipOnFailure([] { throw std::out_of_range("no such control"); }), std::out_of_range);
 }
 
 TEST_F(ProjectLoaderTest, OverlongFilesAreCutAtTheirBuffers) {

@@ -19,49 +19,7 @@ const std::vector<std::pair<ControlName, int>> kFlagLines = {
     {createRestorePoint, 48},
 };
 
-const std::vector<std::tuple<ControlName, int, std::string>> kTextLines = {
-    {appAuthor, 2, "Ann Example"},
-    {shortcutTooltip, 6, "Open Demo"},
-    {website, 9, "http://demo.example"},
-    {mainExecutable, 13, "demo.exe"},
-    {appVersion, 16, "2.5"},
-    {installPath, 18, "Program Files\\Demo Apps"},
-    {minWindowsVersion, 19, "Windows 7"},
-    {licenseTitle, 22, "Terms"},
-    {anyFile, 26, "readme.txt"},
-    {startupArguments, 30, "-tray"},
-    {supportLink, 32, "http://support"},
-    {helpLink, 33, "http://help"},
-    {updateInfoLink, 34, "http://news"},
-    {finalPackageName, 35, "demo-%version.exe"},
-    {shortcutArguments, 36, "-open"},
-};
-
-class ProjectRoundTrip : public EditorFixture {
-protected:
-    void fillForm() {
-        for (const auto& [control, line, text] : kTextLines) {
-            fields->setText(control, text);
-            fields->setPlaceholderLook(control, false);
-        }
-        for (const auto control : {Check15, Check31, Check32, Option2, Option5}) fields->setValue(control, 1);
-        fields->setText(introText, "Welcome\r\n\r\nsecond paragraph");
-        fields->setText(tipsText, "tip one\r\ntip two");
-        fields->setText(uninstallIntroText, "Remove Demo?");
-        fields->setText(uninstallEndText, "Thanks for using Demo!\r\n");
-        fields->setValue(resumedLicenseEnabled, 1);
-        fields->setText(resumedLicenseText, "Short licence\r\nline two");
-        fields->setText(Text10, "slicense.txt");
-        fields->addListItems(registryLocations, {"HKCU\\Software\\Demo", "HKLM\\Software\\Demo"});
-        fields->addListItems(appDataLocations, {"ROAMING\\Demo"});
-        fields->addListItem(dependencies, "a.ocx", true);
-        fields->addListItem(dependencies, "b.dll", false);
-        fields->addListItems(fonts, {"demo.ttf"});
-        box.writeFile(rel("readme.txt"), "read me");
-        box.writeFile(rel("files\\demo.exe"), "MZ");
-        box.writeFile(rel("files\\sub\\data.bin"), "12345");
-    }
-};
+using ProjectRoundTrip = EditorFixture;
 
 TEST_F(ProjectRoundTrip, EachFlagHasItsOwnLineBothWays) {
     for (const auto& [flag, line] : kFlagLines) {

@@ -1,10 +1,15 @@
 #pragma once
 // A host that forwards every call to a real one but fails chosen writes and renames, so a test
 // can prove what a failed save leaves behind. Failures are counted from 1 and happen once.
+// It can also stop the program at its nth change to the disk, as a kill would: a file write is
+// left as its temporary beside the target, any other change is made, and then Killed is thrown,
+// which no routine of the program catches.
 
 #include "platform/Host.h"
 
 namespace orvanta::testing {
+
+struct Killed {};
 
 class FailingHost : public Host {
 public:
@@ -13,6 +18,9 @@ public:
     // Fail the nth writeFileAtomic / renameFile from now on (0: never).
     void failWrite(int nth) { writesLeft_ = nth; }
     void failRename(int nth) { renamesLeft_ = nth; }
+    void killAtChange(int nth) { changesLeft_ = nth; }
+    // Writes, copies, renames, deletions, new folders and attribute changes so far.
+    int changes() const { return changes_; }
 
     std::vector<DirectoryEntry> listDirectory(const std::string& pattern, bool includeFolders) override {
         return inner_.listDirectory(pattern, includeFolders);
@@ -24,23 +32,25 @@ public:
         return inner_.fileAttributes(path);
     }
     bool setFileAttributes(const std::string& path, std::uint32_t attributes) override {
-        return inner_.setFileAttributes(path, attributes);
+        return change(inner_.setFileAttributes(path, attributes));
     }
     std::unique_ptr<FileReader> openForReading(const std::string& path) override {
         return inner_.openForReading(path);
     }
     bool writeFileAtomic(const std::string& path, std::string_view contents) override {
-        return !countDown(writesLeft_) && inner_.writeFileAtomic(path, contents);
+        killDuringWrite(path, contents);
+        return change(!countDown(writesLeft_) && inner_.writeFileAtomic(path, contents));
     }
     bool copyFile(const std::string& from, const std::string& to) override {
-        return inner_.copyFile(from, to);
+        killDuringWrite(to, "half a copy");
+        return change(inner_.copyFile(from, to));
     }
     bool renameFile(const std::string& from, const std::string& to) override {
-        return !countDown(renamesLeft_) && inner_.renameFile(from, to);
+        return change(!countDown(renamesLeft_) && inner_.renameFile(from, to));
     }
-    bool deleteFile(const std::string& path) override { return inner_.deleteFile(path); }
-    bool createFolder(const std::string& path) override { return inner_.createFolder(path); }
-    bool removeFolder(const std::string& path) override { return inner_.removeFolder(path); }
+    bool deleteFile(const std::string& path) override { return change(inner_.deleteFile(path)); }
+    bool createFolder(const std::string& path) override { return change(inner_.createFolder(path)); }
+    bool removeFolder(const std::string& path) override { return change(inner_.removeFolder(path)); }
     std::optional<DiskSpace> diskSpace(const std::string& root) override { return inner_.diskSpace(root); }
 
     std::string specialFolder(int csidl) override { return inner_.specialFolder(csidl); }
@@ -84,6 +94,22 @@ public:
     std::uint64_t tickMilliseconds() override { return inner_.tickMilliseconds(); }
 
 private:
+    bool killedNow() {
+        ++changes_;
+        return countDown(changesLeft_);
+    }
+    // The write stops halfway: its temporary stays and the target keeps what it held.
+    void killDuringWrite(const std::string& path, std::string_view contents) {
+        if (changesLeft_ != 1) return;
+        inner_.writeFileAtomic(path + ".~ovtmp-KILLED", contents.substr(0, contents.size() / 2));
+        killedNow();
+        throw Killed{};
+    }
+    bool change(bool result) {
+        if (killedNow()) throw Killed{};
+        return result;
+    }
+
     // True when this call is the one chosen to fail.
     static bool countDown(int& left) {
         if (left <= 0) return false;
@@ -93,6 +119,8 @@ private:
     Host& inner_;
     int writesLeft_ = 0;
     int renamesLeft_ = 0;
+    int changesLeft_ = 0;
+    int changes_ = 0;
 };
 
 }  // namespace orvanta::testing
