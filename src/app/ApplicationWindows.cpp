@@ -156,7 +156,6 @@ bool ApplicationWindows::openProject(const std::string& projectRoot) {
 void ApplicationWindows::showPackages() {
     mainfrm& editor = ensureEditor();
     PackagesContext context{
-        [this] { return fields_->text(ctrl::appName); },
         [this] { return fields_->text(ctrl::workingFolder); },
         [this](const std::string& caption) { fields_->setCaption(ctrl::Command35, caption); },
         [&editor](const std::string& tip) { editor.showTip(tip); }};
@@ -167,10 +166,10 @@ void ApplicationWindows::showPackages() {
 void ApplicationWindows::showEditions() {
     mainfrm& editor = ensureEditor();
     EditionsContext context{
-        [this] { return projectRoot(vars::workspaceFolder, fields_->text(ctrl::appName)); },
+        [this] { return projectRootOnDisk(host_, fields_->text(ctrl::workingFolder)); },
         [this] { return fields_->text(ctrl::workingFolder); },
         [this] {
-            return WorkingSetSource{projectRoot(vars::workspaceFolder, fields_->text(ctrl::appName)),
+            return WorkingSetSource{projectRootOnDisk(host_, fields_->text(ctrl::workingFolder)),
                                     fields_->text(ctrl::appName), fields_->text(ctrl::fullLicenseFile),
                                     fields_->text(ctrl::resumedLicenseText), fields_->text(ctrl::anyFile)};
         },

@@ -1,5 +1,5 @@
 #pragma once
-// What the packages manager needs of the editor it opens over: two of its fields and two of its
+// What the packages manager needs of the editor it opens over: one of its fields and two of its
 // controls, reached through callbacks so that the manager works with any editor, or none.
 
 #include <functional>
@@ -8,8 +8,6 @@
 namespace orvanta {
 
 struct PackagesContext {
-    // The project's name (the editor's Text1), which names its folder in the workspace.
-    std::function<std::string()> projectName;
     // The working set's folder (the editor's Text2), where "packages.cfg" lies.
     std::function<std::string()> workingFolder;
     // Sets the caption of the editor's button that opens the manager (Command35).

@@ -168,7 +168,7 @@ void mainfrm::Command12_Click() {
 }
 
 void mainfrm::Command30_Click() {
-    const std::string root = projectRoot(vars::workspaceFolder, textOf(*ui_->Text1));
+    const std::string root = projectRootOnDisk(context_.host, workingFolder());
     shellOpen(context_.host, context_.dialogs, inFolder(root, projectfolder::kFonts), "");
 }
 

@@ -170,7 +170,7 @@ std::string packages::packagesFile() const {
 
 // Below the project's root, whichever working set is open.
 std::string packages::packageFolder() const {
-    const std::string root = projectRoot(vars::workspaceFolder, call(context_.projectName));
+    const std::string root = projectRootOnDisk(host_, call(context_.workingFolder));
     return inFolder(inFolder(root, projectfolder::kPackages), fromQString(ui_->Text1->text()));
 }
 

@@ -16,7 +16,7 @@ std::optional<LoadOutcome> changes_edition(EditorContext& context, std::string& 
     project_saver(context, task);
     context.fields.processPendingEvents();
     const std::string before = context.fields.text(ctrl::workingFolder);
-    const std::string root = projectRoot(vars::workspaceFolder, context.fields.text(ctrl::appName));
+    const std::string root = projectRootOnDisk(context.host, before);
     const auto choice = chooseWorkingSet(root, edition, version, [&context](const std::string& folder) {
         return folderExists(context.host, folder) == kTrue;
     });

@@ -38,9 +38,7 @@ public:
           dialogs_(context.dialogs),
           fields_(context.fields),
           folder_(folder),
-          root_(projectRootOf(folder, [this](const std::string& candidate) {
-              return fileExists(host_, inFolder(candidate, kMainSettings)) == kTrue;
-          })) {}
+          root_(projectRootOnDisk(host_, folder)) {}
 
     LoadOutcome run() {
         setUp();

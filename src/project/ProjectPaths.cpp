@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core/commonFunctions.h"
 #include "platform/WindowsPath.h"
 
 namespace orvanta {
@@ -79,6 +80,12 @@ std::string projectRootOf(std::string_view workingSet,
          {above(workingSet, 1, projectfolder::kEditions), above(workingSet, 2, projectfolder::kVersions)})
         if (candidate && isProjectRoot(*candidate)) return *candidate;
     return std::string(workingSet);
+}
+
+std::string projectRootOnDisk(Host& host, std::string_view workingSet) {
+    return projectRootOf(workingSet, [&host](const std::string& folder) {
+        return fileExists(host, inFolder(folder, projectfile::kMainSettings)) == kTrue;
+    });
 }
 
 std::string versionFilesFolder(std::string_view workingSet, std::string_view version) {

@@ -8,6 +8,8 @@
 
 namespace orvanta {
 
+class Host;
+
 namespace projectfile {
 inline constexpr std::string_view kMainSettings = "mainsettings.cfg";
 inline constexpr std::string_view kIntro = "intro.cfg";
@@ -76,6 +78,10 @@ std::string versionWorkingSet(std::string_view projectRoot, std::string_view ver
 // a hand-copied project folder never writes into the folder it was copied from.
 std::string projectRootOf(std::string_view workingSet,
                           const std::function<bool(const std::string&)>& isProjectRoot);
+// The project root of a working set as it lies on disk: a root is a folder that holds the
+// settings file. Everything that writes or opens below the root takes it from here, not from
+// the name, so a hand-copied project folder stays apart from its original.
+std::string projectRootOnDisk(Host& host, std::string_view workingSet);
 // The last component of a path.
 std::string lastComponentOf(std::string_view path);
 // "\v<version>": the application's files of one version, beside "\files".

@@ -66,9 +66,7 @@ public:
           random_(context.random ? context.random : timerSeededRandom(context.host)),
           appName_(fields_.text(ctrl::appName)),
           workingSet_(fields_.text(workingFolder)),
-          root_(projectRootOf(
-              workingSet_,
-              [this](const std::string& folder) { return exists(inFolder(folder, kMainSettings)); })),
+          root_(projectRootOnDisk(host_, workingSet_)),
           filesBase_(inFolder(root_, projectfolder::kFiles)) {}
 
     // Everything up to the free texts; a file that cannot be written throws RuntimeError.

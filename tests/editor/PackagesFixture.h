@@ -51,6 +51,7 @@ protected:
         vars::reset();
         vars::workspaceFolder = box.windowsPath("Documents\\Orvanta");
         box.makeFolder(std::string(kRoot) + "\\packages");
+        box.writeFile(std::string(kRoot) + "\\mainsettings.cfg", "Demo\r\n");
     }
     void TearDown() override { vars::reset(); }
 
@@ -63,7 +64,7 @@ protected:
         return *window;
     }
     PackagesContext context() {
-        return {[this] { return projectName; }, [this] { return box.windowsPath(working); },
+        return {[this] { return box.windowsPath(working); },
                 [this](const std::string& text) { captions.push_back(text); },
                 [this](const std::string& text) { tips.push_back(text); }};
     }
@@ -102,7 +103,6 @@ protected:
     ShellRecordingHost host{box.host()};
     ScriptedDialogs dialogs;
     PackageTables tables;
-    std::string projectName = "Demo";
     std::string working = kRoot;  // the working folder, below the sandbox
     std::vector<std::string> captions;
     std::vector<std::string> tips;

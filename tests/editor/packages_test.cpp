@@ -164,8 +164,8 @@ TEST_F(PackagesManager, TipFolderSizeAndOpenUseTheirOwnFolders) {
 }
 
 TEST_F(PackagesManager, AProjectWithoutItsPackagesFolderKeepsTheAdd) {
-    box.makeFolder("Documents\\Orvanta\\myinstallers\\Other");
-    projectName = "Other";
+    working = "Documents\\Orvanta\\myinstallers\\Other";
+    box.writeFile(working + "\\mainsettings.cfg", "Other\r\n");
     open();
     fillAddedPackage("Extras", "<>\\extras", "");
     button("Command2").click();

@@ -126,7 +126,7 @@ private:
 
 PackagesContext sampleEditor() {
     const std::string root = vars::workspaceFolder + "\\myinstallers\\Demo";
-    return {[] { return std::string("Demo"); }, [root] { return root; }, {}, {}};
+    return {[root] { return root; }, {}, {}};
 }
 
 void render(const std::vector<Shot>& shots, const QString& folder) {
