@@ -1,12 +1,14 @@
 // Saving, the simulator's question and leaving the window: with the setting "saveAlways" at 1
 // the user is asked first, otherwise the project is saved without a word.
 #include <QCloseEvent>
+#include <QTimer>
 
 #include "core/RegistryAPI.h"
 #include "core/commonFunctions.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
 #include "editor/mainfrm.h"
+#include "project/ProjectTask.h"
 #include "ui_mainfrm.h"
 
 namespace orvanta {
@@ -14,6 +16,7 @@ namespace orvanta {
 namespace {
 
 constexpr const char* kStartMenu = "Start menu";
+constexpr int kCloseRetryMilliseconds = 100;
 
 bool asksBeforeSaving(Host& host) {
     return RegistryAPI(host).readSettingNumber(vars::settingsKey(), "saveAlways", 0) == 1;
@@ -46,7 +49,14 @@ void mainfrm::pre_Click() {
 }
 
 // There is no Cancel: the window goes in every case, and the link decides where the user lands.
+// A close that arrives while a save, load or switch lets events run waits for it to end, so the
+// window never goes with half its fields written.
 void mainfrm::closeEvent(QCloseEvent* event) {
+    if (ProjectTask::anyRunning()) {
+        event->ignore();
+        QTimer::singleShot(kCloseRetryMilliseconds, this, &QWidget::close);
+        return;
+    }
     if (!asksBeforeSaving(context_.host) || askToSave("Do you want to save the current project changes?"))
         saveProject();
     const bool toStart = textOf(*ui_->Label21) == kStartMenu;

@@ -17,6 +17,8 @@ public:
 
     // False when another task was running already: this one must do nothing.
     bool running() const { return running_; }
+    // Whether a save, load or switch runs now, somewhere further down the stack.
+    static bool anyRunning() { return busy_; }
 
 private:
     inline static bool busy_ = false;

@@ -16,6 +16,7 @@
 #include "EditorFixture.h"
 #include "editor/optionsfrm.h"
 #include "image/widget/aicAlphaImage.h"
+#include "project/ProjectTask.h"
 
 namespace orvanta::testing {
 namespace {
@@ -165,8 +166,14 @@ TEST_F(Shell, OptionsLinkOpensOneOptionsWindowWithoutModality) {
     EXPECT_FALSE(windows[0]->isModal());
 }
 
-TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSet) {
-    window->close();
+TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSetAndWaitsForASaveThatRuns) {
+    {
+        const ProjectTask runningSave;
+        window->close();
+        EXPECT_EQ(unloads, 0) << "the window stays while a save runs";
+        EXPECT_EQ(saves, 0);
+    }
+    QTRY_COMPARE(unloads, 1);
     EXPECT_EQ(saves, 1);
     EXPECT_TRUE(dialogs.taskDialogs.empty());
     EXPECT_EQ(unloads, 1);
