@@ -224,9 +224,11 @@ private:
     ApplicationFileLists lists_;
 };
 
+// The description ends in the file's path; the sentence gets a line of its own so the two do not
+// run together.
 DialogAnswer askRetry(Dialogs& dialogs, const RuntimeError& error) {
     return dialogs.messageBox(
-        {error.description() + std::to_string(error.number()) + "Something went wrong while saving.",
+        {error.description() + std::to_string(error.number()) + "\r\nSomething went wrong while saving.",
          MessageButtons::RetryCancel, MessageIcon::Exclamation, "Orvanta"});
 }
 

@@ -204,8 +204,8 @@ TEST_F(ProjectSaverTest, AFailedWriteOffersRetryOrCancel) {
     EXPECT_EQ(project_saver(saving), SaveOutcome::Cancelled);
     ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
     const auto& question = dialogs.messageBoxes[0];
-    EXPECT_EQ(question.text,
-              "Path/File access error (" + root + "\\mainsettings.cfg)75Something went wrong while saving.");
+    EXPECT_EQ(question.text, "Path/File access error (" + root +
+                                 "\\mainsettings.cfg)75\r\nSomething went wrong while saving.");
     EXPECT_EQ(question.buttons, MessageButtons::RetryCancel);
     EXPECT_EQ(question.icon, MessageIcon::Exclamation);
     EXPECT_TRUE(box.exists(rel("Demo.ovproj"))) << "what was written stays";
