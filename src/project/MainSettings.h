@@ -82,7 +82,7 @@ std::optional<MainSettings> readMainSettings(Host& host, const std::string& path
                                              DamagedLines* damaged = nullptr);
 
 // Line 13 that is exactly ".exe" or blank clears the check box beside the main executable;
-// ".EXE" does not.
+// ".EXE" does not. Such a name names no executable, so it gives the folder no icon either.
 bool mainExecutableClearsCheck(const std::string& mainExecutable);
 
 // finalPackageName with every "%version" (case as written) replaced by appVersion.

@@ -17,6 +17,7 @@
 #include "project/IntegrityRecord.h"
 #include "project/LeftoverTemporaries.h"
 #include "project/LocationList.h"
+#include "project/MainSettings.h"
 #include "project/MainSettingsFields.h"
 #include "project/MarkerFile.h"
 #include "project/ProjectPaths.h"
@@ -181,10 +182,12 @@ private:
     }
 
     // Written once: the folder keeps the icon it was given first.
+    // An empty name (the loader clears the field with its check box) names no executable either:
+    // an icon written for it would stand for good, as the file is never written again.
     void writeFolderIcon() {
         const std::string executable = fields_.text(mainExecutable);
         const std::string ini = inFolder(root_, kDesktopIni);
-        if (executable == ".exe" || host_.fileAttributes(ini)) return;
+        if (mainExecutableClearsCheck(executable) || host_.fileAttributes(ini)) return;
         writeDesktopIni(host_, ini, inFolder(filesBase_, executable));
         host_.setFileAttributes(ini, kAttributeHidden | kAttributeSystem);
         host_.startProcess("attrib +r \"" + root_ + "\"", kWindowHidden);

@@ -183,8 +183,11 @@ TEST_F(ProjectSaverTest, TheLicenceIsWrittenInTheWorkingSetButRemovedFromTheRoot
 }
 
 TEST_F(ProjectSaverTest, TheFolderIconIsWrittenOnceAndOnlyForARealExecutable) {
-    save();
-    EXPECT_FALSE(box.exists(rel("desktop.ini"))) << "\".exe\" names no executable";
+    for (const char* none : {".exe", "", " "}) {
+        fields->setText(mainExecutable, none);
+        save();
+        EXPECT_FALSE(box.exists(rel("desktop.ini"))) << "\"" << none << "\" names no executable";
+    }
     fields->setText(mainExecutable, "demo.exe");
     save();
     const std::string icon = root + "\\files\\demo.exe";
