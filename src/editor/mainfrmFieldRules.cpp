@@ -9,8 +9,8 @@
 #include "controls/PlaceholderText.h"
 #include "core/SpecialFolderAPI.h"
 #include "editor/FormText.h"
-#include "editor/InstallPathRules.h"
 #include "editor/mainfrm.h"
+#include "editor/rules/InstallPathRules.h"
 #include "ui_mainfrm.h"
 
 namespace orvanta {

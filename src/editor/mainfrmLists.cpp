@@ -3,12 +3,12 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <algorithm>
-#include <cctype>
 
 #include "core/commonFunctions.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
 #include "editor/mainfrm.h"
+#include "platform/CaseFolding.h"
 #include "project/ProjectPaths.h"
 #include "ui_mainfrm.h"
 
@@ -17,10 +17,7 @@ namespace orvanta {
 namespace {
 
 std::string lastThreeLowered(const std::string& name) {
-    std::string tail = name.size() < 3 ? name : name.substr(name.size() - 3);
-    std::transform(tail.begin(), tail.end(), tail.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return tail;
+    return toLowerCase(name.size() < 3 ? name : name.substr(name.size() - 3));
 }
 
 bool isFontFile(const std::string& name) {

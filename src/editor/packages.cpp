@@ -9,7 +9,7 @@
 #include "controls/ctlListView.h"
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
-#include "editor/PackageLocation.h"
+#include "editor/rules/PackageLocation.h"
 #include "ui_packages.h"
 
 namespace orvanta {

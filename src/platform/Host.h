@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/NativeTaskDialog.h"
+
 namespace orvanta {
 
 // File attribute bits, with the values Windows gives them.
@@ -152,6 +154,11 @@ public:
     virtual std::vector<std::string> processNames() = 0;
     // ShellExecuteA with an empty verb and folder: above 32 on success, else its error code.
     virtual int shellExecute(const std::string& file, const std::string& parameters, int showCommand) = 0;
+
+    // The platform's own task dialog, where it has one; nothing where it has none or it failed.
+    virtual std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog&) {
+        return std::nullopt;
+    }
 
     // ---- The system
     virtual VersionWords versionWords() = 0;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "core/commonFunctions.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "project/LineFile.h"
 #include "project/ProjectPaths.h"
@@ -122,7 +123,7 @@ bool isDotEntry(const std::string& name) {
 
 void deleteIntegrityRecords(Host& host, const std::string& workingFolder) {
     for (const auto& entry : host.listDirectory(inFolder(workingFolder, "*"), true)) {
-        if (!isDotEntry(entry.name) && toLowerAscii(entry.name).ends_with("hsh"))
+        if (!isDotEntry(entry.name) && toLowerCase(entry.name).ends_with("hsh"))
             host.deleteFile(inFolder(workingFolder, entry.name));
         host.processPendingMessages();
     }

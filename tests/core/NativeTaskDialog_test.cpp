@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "core/NativeTaskDialog.h"
+#include "support/FailingHost.h"
+#include "support/Sandbox.h"
 
 namespace orvanta {
 namespace {
@@ -15,9 +17,9 @@ TEST(NativeTaskDialog, PlansTextsButtonsAndIconsFromTheRequest) {
     request.verificationChecked = true;
     request.mainIcon = MessageIcon::Exclamation;
     request.commonButtons = MessageButtons::YesNoCancel;
-    NativeTaskDialogPlan plan = planNativeTaskDialog(request);
-    EXPECT_EQ(plan.windowTitle, L"Orvanta");
-    EXPECT_EQ(plan.mainInstruction, L"Caf\u00E9 closed");
+    NativeTaskDialog plan = planNativeTaskDialog(request);
+    EXPECT_EQ(plan.windowTitle, "Orvanta");
+    EXPECT_EQ(plan.mainInstruction, "Caf\xE9 closed");
     EXPECT_EQ(plan.commonButtons, 2 | 4 | 8);  // yes, no, cancel
     EXPECT_TRUE(plan.buttons.empty());
     EXPECT_EQ(plan.mainIcon, -1);
@@ -40,8 +42,31 @@ TEST(NativeTaskDialog, PlansTextsButtonsAndIconsFromTheRequest) {
     request.defaultButton = 101;
     plan = planNativeTaskDialog(request);
     ASSERT_EQ(plan.buttons.size(), 2u);
-    EXPECT_EQ(plan.buttons[1], (std::pair<int, std::wstring>{101, L"Close"}));
+    EXPECT_EQ(plan.buttons[1], (std::pair<int, std::string>{101, "Close"}));
     EXPECT_EQ(plan.defaultButton, 101);
+}
+
+// The host shows the platform's dialog where it has one; the service falls back where it has none.
+class TaskDialogHost : public testing::FailingHost {
+public:
+    using FailingHost::FailingHost;
+    std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog& plan) override {
+        shown.push_back(plan.mainInstruction);
+        return NativeTaskDialogAnswer{7, 0, true};
+    }
+    std::vector<std::string> shown;
+};
+
+TEST(NativeTaskDialog, IsShownByTheHostThatHasOne) {
+    testing::Sandbox box;
+    TaskDialogHost host(box.host());
+    TaskDialogExRequest request;
+    request.mainInstruction = "Delete it?";
+    TaskDialogExAnswer answer;
+    ASSERT_TRUE(showNativeTaskDialog(host, request, answer));
+    EXPECT_EQ(host.shown, std::vector<std::string>{"Delete it?"});
+    EXPECT_EQ(answer.button, 7);
+    EXPECT_TRUE(answer.verificationChecked);
 }
 
 }  // namespace
