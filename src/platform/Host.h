@@ -126,7 +126,8 @@ public:
     // The process's command line after the program name, as one string; host paths in it are
     // already in their Windows form.
     virtual std::string commandLine() = 0;
-    // Between the system's Windows paths and the host's own (what file dialogs and terminals use).
+    // Between the system's Windows paths (ANSI) and the host's own, in UTF-8 on every host (what file
+    // dialogs, Qt and terminals use).
     virtual std::string toHostPath(const std::string& windowsPath) = 0;
     virtual std::string toWindowsPath(const std::string& hostPath) = 0;
 
