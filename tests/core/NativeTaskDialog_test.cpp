@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "core/NativeTaskDialog.h"
-#include "support/FailingHost.h"
-#include "support/Sandbox.h"
 
 namespace orvanta {
 namespace {
@@ -44,29 +42,6 @@ TEST(NativeTaskDialog, PlansTextsButtonsAndIconsFromTheRequest) {
     ASSERT_EQ(plan.buttons.size(), 2u);
     EXPECT_EQ(plan.buttons[1], (std::pair<int, std::string>{101, "Close"}));
     EXPECT_EQ(plan.defaultButton, 101);
-}
-
-// The host shows the platform's dialog where it has one; the service falls back where it has none.
-class TaskDialogHost : public testing::FailingHost {
-public:
-    using FailingHost::FailingHost;
-    std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog& plan) override {
-        shown.push_back(plan.mainInstruction);
-        return NativeTaskDialogAnswer{7, 0, true};
-    }
-    std::vector<std::string> shown;
-};
-
-TEST(NativeTaskDialog, IsShownByTheHostThatHasOne) {
-    testing::Sandbox box;
-    TaskDialogHost host(box.host());
-    TaskDialogExRequest request;
-    request.mainInstruction = "Delete it?";
-    TaskDialogExAnswer answer;
-    ASSERT_TRUE(showNativeTaskDialog(host, request, answer));
-    EXPECT_EQ(host.shown, std::vector<std::string>{"Delete it?"});
-    EXPECT_EQ(answer.button, 7);
-    EXPECT_TRUE(answer.verificationChecked);
 }
 
 }  // namespace
