@@ -48,7 +48,7 @@ std::string DriveMap::toHostPath(std::string_view windowsPath) const {
         if (c == '/') c = '\\';
     std::string current;
     if (path.size() >= 2 && path[1] == ':') {
-        const char drive = static_cast<char>(path[0] | 0x20);
+        const char drive = lowerCase(path[0]);
         if (drive == 'z') {
             current = "/";
         } else if (drive == 'c') {
