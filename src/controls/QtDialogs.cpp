@@ -100,7 +100,6 @@ DialogAnswer QtDialogs::messageBox(const MessageBoxRequest& request) {
 }
 
 DialogAnswer QtDialogs::taskDialog(const TaskDialogRequest& request) {
-#ifdef _WIN32
     TaskDialogExRequest native;
     native.windowTitle = request.title;
     native.mainInstruction = request.instruction;
@@ -108,8 +107,7 @@ DialogAnswer QtDialogs::taskDialog(const TaskDialogRequest& request) {
     native.mainIcon = request.icon;
     native.commonButtons = request.buttons;
     TaskDialogExAnswer answer;
-    if (showNativeTaskDialog(native, answer)) return static_cast<DialogAnswer>(answer.button);
-#endif
+    if (showNativeTaskDialog(host_, native, answer)) return static_cast<DialogAnswer>(answer.button);
     QMessageBox box(toIcon(request.icon), windowTitle(request.title), toDisplayText(request.instruction),
                     standardButtons(request.buttons), owner_);
     box.setInformativeText(toDisplayText(request.content));
@@ -117,10 +115,8 @@ DialogAnswer QtDialogs::taskDialog(const TaskDialogRequest& request) {
 }
 
 TaskDialogExAnswer QtDialogs::taskDialogEx(const TaskDialogExRequest& request) {
-#ifdef _WIN32
-    // The platform's own dialog; Qt's stands in only where it could not be shown.
-    if (TaskDialogExAnswer answer; showNativeTaskDialog(request, answer)) return answer;
-#endif
+    // The platform's own dialog; Qt's stands in where the host has none or it could not be shown.
+    if (TaskDialogExAnswer answer; showNativeTaskDialog(host_, request, answer)) return answer;
     QMessageBox box(toIcon(request.mainIcon), windowTitle(request.windowTitle),
                     toDisplayText(request.mainInstruction), QMessageBox::NoButton, owner_);
     box.setInformativeText(toDisplayText(request.content));
@@ -156,13 +152,12 @@ std::string QtDialogs::inputBox(const InputBoxRequest& request) {
 }
 
 std::string QtDialogs::openFile(const OpenFileRequest& request) {
-    QFileDialog dialog(owner_, toQString(request.title),
-                       QString::fromStdString(host_.toHostPath(request.initialFolder)),
+    QFileDialog dialog(owner_, toQString(request.title), toQtPath(host_, request.initialFolder),
                        qtFilter(request.filter));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(defaultSuffix(request.defaultExtensions));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return host_.toWindowsPath(dialog.selectedFiles().first().toStdString());
+    return fromQtPath(host_, dialog.selectedFiles().first());
 }
 
 FolderBrowserAnswer QtDialogs::browseForFolder(const FolderBrowserRequest& request) {

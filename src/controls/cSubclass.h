@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/MessageTable.h"
+#include "controls/rules/MessageTable.h"
 #include "core/Dialogs.h"
 
 class QEvent;

@@ -9,6 +9,8 @@
 
 #include "controls/ListViewDelegate.h"
 #include "controls/QtText.h"
+#include "platform/CaseFolding.h"
+#include "platform/WindowsPath.h"
 
 namespace orvanta {
 namespace {
@@ -262,7 +264,10 @@ int ctlListView::ImageListSmallAdd(const QIcon& icon) {
 }
 
 int ctlListView::SystemImageIndex(const std::string& fileName) {
-    const QString type = QFileInfo(toQString(fileName)).suffix().toLower();
+    const std::string name = lastComponent(withBackslashes(fileName));
+    const std::size_t dot = name.rfind('.');
+    const QString type =
+        toQString(dot == std::string::npos ? std::string() : toLowerCase(name.substr(dot + 1)));
     for (const auto& [known, index] : fileTypeImages_)
         if (known == type) return index;
     QIcon icon = QFileIconProvider().icon(QFileInfo(QStringLiteral("file.") + type));

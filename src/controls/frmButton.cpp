@@ -2,8 +2,8 @@
 
 #include <QFileSystemModel>
 
-#include "controls/ModBrowse.h"
 #include "controls/QtText.h"
+#include "controls/rules/ModBrowse.h"
 #include "ui_frmButton.h"
 
 namespace orvanta {
@@ -49,7 +49,7 @@ FolderBrowserAnswer frmButton::answer() const {
 }
 
 void frmButton::selectFolder(const std::string& windowsPath) {
-    const QModelIndex index = model_->index(QString::fromStdString(host_.toHostPath(windowsPath)));
+    const QModelIndex index = model_->index(toQtPath(host_, windowsPath));
     if (!index.isValid()) return;
     ui_->Tree1->setCurrentIndex(index);
     ui_->Tree1->scrollTo(index);
@@ -57,7 +57,7 @@ void frmButton::selectFolder(const std::string& windowsPath) {
 
 void frmButton::selectionChanged() {
     const QModelIndex index = ui_->Tree1->currentIndex();
-    if (index.isValid()) currentPath_ = host_.toWindowsPath(model_->filePath(index).toStdString());
+    if (index.isValid()) currentPath_ = fromQtPath(host_, model_->filePath(index));
 }
 
 void frmButton::Command1_Click() {

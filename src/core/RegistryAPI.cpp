@@ -4,6 +4,7 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 
 namespace orvanta {
@@ -28,7 +29,7 @@ constexpr std::array<RootName, 7> kRoots = {{
 
 // Replaces every occurrence of `from`, ignoring case, as the path's long root names are replaced.
 void replaceIgnoringCase(std::string& text, std::string_view from, std::string_view to) {
-    std::string upper = toUpperAscii(text);
+    std::string upper = toUpperCase(text);
     std::size_t at = 0;
     while ((at = upper.find(from, at)) != std::string::npos) {
         text.replace(at, from.size(), to);
@@ -51,7 +52,7 @@ std::string trimBlanks(const std::string& text) {
 RegistryKey RegistryAPI::parseRegistryPath(std::string& path, std::string& subKey) {
     for (const auto& root : kRoots) replaceIgnoringCase(path, root.longName, root.shortName);
     const auto cut = path.find('\\');
-    const std::string rootName = toUpperAscii(path.substr(0, cut));
+    const std::string rootName = toUpperCase(path.substr(0, cut));
     subKey = cut == std::string::npos ? std::string() : path.substr(cut + 1);
     for (const auto& root : kRoots)
         if (rootName == root.shortName) return root.handle;

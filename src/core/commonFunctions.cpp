@@ -23,10 +23,12 @@ bool listsVisibleName(Host& host, const std::string& path, bool includeFolders) 
     return false;
 }
 
-void reportShellFailure(Host& host, Dialogs& dialogs, int code) {
-    // Only a missing file is worth interrupting the user for; a failed web address must not be.
-    if (code != 2 || !prefersTaskDialog(host)) return;
-    dialogs.messageBox({shellErrorText(code), MessageButtons::Ok, MessageIcon::None, "Orvanta"});
+// Every failure is told, with what could not be opened: a silent click leaves the user guessing.
+void reportShellFailure(Host& host, Dialogs& dialogs, const std::string& file, int code) {
+    const std::string instruction = "Could not open " + file;
+    const std::string reason = shellFailureReason(code);
+    notifyUser(host, dialogs, {instruction, reason, "Orvanta", MessageButtons::Ok, MessageIcon::Exclamation},
+               instruction + "\r\n" + reason);
 }
 
 }  // namespace
@@ -59,14 +61,19 @@ std::string shellErrorText(int code) {
     return {};
 }
 
+std::string shellFailureReason(int code) {
+    const std::string text = shellErrorText(code);
+    return text.empty() ? "The system gave the error " + std::to_string(code) + "." : text;
+}
+
 void shellOpen(Host& host, Dialogs& dialogs, const std::string& file, const std::string& parameters) {
     const int result = host.shellExecute(file, parameters, kWindowNormalFocus);
-    if (result < 33) reportShellFailure(host, dialogs, result);
+    if (result < 33) reportShellFailure(host, dialogs, file, result);
 }
 
 void shellOpenHidden(Host& host, Dialogs& dialogs, const std::string& file) {
     const int result = host.shellExecute(file, "", kWindowHidden);
-    if (result < 33) reportShellFailure(host, dialogs, result);
+    if (result < 33) reportShellFailure(host, dialogs, file, result);
 }
 
 std::string windowsVersionName(Host& host) {

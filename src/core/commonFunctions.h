@@ -20,12 +20,14 @@ std::int16_t fileExists(Host& host, const std::string& path);
 // The same listing with folders included, so it is also true for a file.
 std::int16_t folderExists(Host& host, const std::string& path);
 
-// Opens a file or address through the shell; of the failures only "File not found." is shown,
-// and only on systems that get task dialogs. Every other failure stays silent on purpose.
+// Opens a file or address through the shell; a failure is shown with the file or address and
+// the shell's reason.
 void shellOpen(Host& host, Dialogs& dialogs, const std::string& file, const std::string& parameters);
 void shellOpenHidden(Host& host, Dialogs& dialogs, const std::string& file);
 // The text for a shell error code below 33; empty for codes without one.
 std::string shellErrorText(int code);
+// The table's text, or a sentence with the code for one the table has no row for.
+std::string shellFailureReason(int code);
 
 // "Windows 2000", "Windows XP", "Windows Vista", "Windows 7", "Windows old" or empty.
 std::string windowsVersionName(Host& host);

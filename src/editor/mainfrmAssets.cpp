@@ -2,8 +2,6 @@
 // preview image and the settings sets. Each button copies a picked file into the working set; a
 // step that fails ends the action silently, and what was done before it stays.
 #include <QPushButton>
-#include <algorithm>
-#include <cctype>
 
 #include "core/CommondialogBox.h"
 #include "core/commonFunctions.h"
@@ -12,6 +10,7 @@
 #include "editor/Mnemonics.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
+#include "platform/CaseFolding.h"
 #include "project/ProjectPaths.h"
 #include "ui_mainfrm.h"
 
@@ -22,12 +21,6 @@ namespace {
 std::string nameBehindLastSlash(const std::string& path) {
     const std::size_t slash = path.rfind('\\');
     return slash == std::string::npos ? path : path.substr(slash + 1);
-}
-
-bool sameWindowsPath(const std::string& a, const std::string& b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(),
-                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 // A web address or a full path is opened as it stands; anything else names a file of the working set.
@@ -91,7 +84,7 @@ void mainfrm::Command14_Click() {
     setTextOf(*ui_->Text27, name);
     // A file of the working set itself cannot be copied onto itself: the field stays filled all the same.
     const std::string copy = workingFolder() + "\\" + name;
-    if (sameWindowsPath(picked, copy) || !context_.host.copyFile(picked, copy)) return;
+    if (equalsIgnoringCase(picked, copy) || !context_.host.copyFile(picked, copy)) return;
     ui_->Command38->setEnabled(true);
 }
 

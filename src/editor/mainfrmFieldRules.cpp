@@ -9,9 +9,9 @@
 #include "controls/PlaceholderText.h"
 #include "core/SpecialFolderAPI.h"
 #include "editor/FormText.h"
-#include "editor/InstallPathRules.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
+#include "editor/rules/InstallPathRules.h"
 #include "project/UninstallOptions.h"
 #include "ui_mainfrm.h"
 

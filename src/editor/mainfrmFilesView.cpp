@@ -6,8 +6,8 @@
 #include "core/CommondialogBox.h"
 #include "core/vars.h"
 #include "editor/FormText.h"
-#include "editor/MainExecutable.h"
 #include "editor/mainfrm.h"
+#include "editor/rules/MainExecutable.h"
 #include "project/ApplicationFiles.h"
 #include "ui_mainfrm.h"
 

@@ -9,6 +9,7 @@
 #include "editor/FormText.h"
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
+#include "platform/CaseFolding.h"
 #include "project/FontFolderScan.h"
 #include "project/ProjectPaths.h"
 #include "ui_mainfrm.h"

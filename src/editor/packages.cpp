@@ -10,7 +10,7 @@
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
 #include "editor/Mnemonics.h"
-#include "editor/PackageLocation.h"
+#include "editor/rules/PackageLocation.h"
 #include "ui_packages.h"
 
 namespace orvanta {

@@ -7,8 +7,8 @@
 #include "core/DirRecurse.h"
 #include "core/commonFunctions.h"
 #include "core/vars.h"
-#include "editor/PackageLocation.h"
 #include "editor/packages.h"
+#include "editor/rules/PackageLocation.h"
 #include "project/ProjectPaths.h"
 #include "ui_packages.h"
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "image/cPNGwriter.h"
+#include "platform/CaseFolding.h"
 
 namespace orvanta {
 
@@ -25,18 +25,11 @@ constexpr std::array<Keyword, 10> kKeywords = {{{"Title", 1},
                                                 {"Source'", 256},
                                                 {"Comment", 512}}};
 
-bool sameIgnoringCase(const std::string& a, const std::string& b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::tolower(static_cast<unsigned char>(x)) ==
-                      std::tolower(static_cast<unsigned char>(y));
-           });
-}
-
 }  // namespace
 
 std::int32_t cPNGwriter::keywordBit(const std::string& keyword) {
     for (const Keyword& k : kKeywords)
-        if (sameIgnoringCase(keyword, k.word)) return k.bit;
+        if (equalsIgnoringCase(keyword, k.word)) return k.bit;
     return -1;
 }
 

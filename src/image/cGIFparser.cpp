@@ -1,11 +1,12 @@
 #include "image/cGIFparser.h"
 
 #include <array>
-#include <string_view>
+#include <string>
 #include <vector>
 
 #include "image/LzwDecoder.h"
 #include "image/RasterBytes.h"
+#include "platform/CaseFolding.h"
 
 namespace orvanta {
 
@@ -30,13 +31,9 @@ struct GifFrame {
 
 bool hasGifSignature(ByteRun bytes) {
     if (bytes.size() < 6) return false;
-    char text[6];
-    for (std::size_t i = 0; i < 6; ++i) {
-        const std::uint8_t c = bytes[i];
-        text[i] = static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
-    }
-    const std::string_view signature(text, 6);
-    return signature == "gif89a" || signature == "gif87a";
+    std::string signature(6, '\0');
+    for (std::size_t i = 0; i < 6; ++i) signature[i] = static_cast<char>(bytes[i]);
+    return equalsIgnoringCase(signature, "gif89a") || equalsIgnoringCase(signature, "gif87a");
 }
 
 // A colour table of 2^(n+1) entries follows when bit 7 of `flags` is set; a later table replaces one

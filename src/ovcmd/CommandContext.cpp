@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 
 namespace orvanta {
@@ -14,7 +15,7 @@ CommandArguments splitArguments(const std::vector<std::string>& words) {
     CommandArguments split;
     for (const auto& word : words) {
         if (word.size() > 1 && word[0] == '/')
-            split.switches.push_back(toLowerAscii(word));
+            split.switches.push_back(toLowerCase(word));
         else
             split.names.push_back(word);
     }

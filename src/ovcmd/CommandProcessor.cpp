@@ -10,6 +10,7 @@
 #include "ovcmd/BatchLine.h"
 #include "ovcmd/FileCommands.h"
 #include "ovcmd/TreeCommands.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsCommandLine.h"
 #include "platform/WindowsPath.h"
 
@@ -24,7 +25,7 @@ Builtin findBuiltin(const std::string& name) {
         {"copy", runCopy},          {"del", runDelete},    {"erase", runDelete},     {"rd", runRemoveFolder},
         {"rmdir", runRemoveFolder}, {"md", runMakeFolder}, {"mkdir", runMakeFolder}, {"attrib", runAttrib},
         {"xcopy", runXcopy},        {"dir", runDir}};
-    const auto found = kBuiltins.find(toLowerAscii(name));
+    const auto found = kBuiltins.find(toLowerCase(name));
     return found == kBuiltins.end() ? nullptr : found->second;
 }
 
@@ -59,7 +60,7 @@ public:
     OutputRedirection(Host& host, const BatchLine& line) {
         if (line.output.empty()) return;
         const std::string target =
-            toLowerAscii(line.output) == "nul" ? "/dev/null" : host.toHostPath(line.output);
+            toLowerCase(line.output) == "nul" ? "/dev/null" : host.toHostPath(line.output);
         const int flags = O_WRONLY | O_CREAT | O_CLOEXEC | (line.append ? O_APPEND : O_TRUNC);
         const int fd = target.empty() ? -1 : ::open(target.c_str(), flags, 0644);
         failed_ = fd < 0;
@@ -85,7 +86,7 @@ private:
 };
 
 int runEcho(const std::string& text) {
-    const std::string lower = toLowerAscii(text);
+    const std::string lower = toLowerCase(text);
     if (lower == "off" || lower == "on") return 0;
     std::cout << text << "\n";
     return 0;
@@ -131,7 +132,7 @@ int CommandProcessor::runLine(const std::string& line) {
 
 int CommandProcessor::runCommand(const std::string& command) {
     const CommandWord first = firstWord(command);
-    const std::string name = toLowerAscii(first.word);
+    const std::string name = toLowerCase(first.word);
     if (name.empty() || name.starts_with(":") || name == "rem") return 0;
     std::string rest = command.substr(first.restAt);
     if (name == "echo" || name.starts_with("echo.")) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <filesystem>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/posix/AtomicFile.h"
 
@@ -179,7 +180,7 @@ bool parseAttributeChange(const std::string& word, AttributeChange& change) {
                                                                             {'s', kAttributeSystem},
                                                                             {'a', kAttributeArchive}}};
     for (const auto& [letter, bit] : kLetters)
-        if (toLowerAscii(word.substr(1)) == std::string(1, letter)) {
+        if (toLowerCase(word.substr(1)) == std::string(1, letter)) {
             (word[0] == '+' ? change.set : change.clear) |= bit;
             return true;
         }

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/NativeTaskDialog.h"
+
 namespace orvanta {
 
 // File attribute bits, with the values Windows gives them.
@@ -124,7 +126,8 @@ public:
     // The process's command line after the program name, as one string; host paths in it are
     // already in their Windows form.
     virtual std::string commandLine() = 0;
-    // Between the system's Windows paths and the host's own (what file dialogs and terminals use).
+    // Between the system's Windows paths (ANSI) and the host's own, in UTF-8 on every host (what file
+    // dialogs, Qt and terminals use).
     virtual std::string toHostPath(const std::string& windowsPath) = 0;
     virtual std::string toWindowsPath(const std::string& hostPath) = 0;
 
@@ -152,6 +155,11 @@ public:
     virtual std::vector<std::string> processNames() = 0;
     // ShellExecuteA with an empty verb and folder: above 32 on success, else its error code.
     virtual int shellExecute(const std::string& file, const std::string& parameters, int showCommand) = 0;
+
+    // The platform's own task dialog, where it has one; nothing where it has none or it failed.
+    virtual std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog&) {
+        return std::nullopt;
+    }
 
     // ---- The system
     virtual VersionWords versionWords() = 0;

@@ -2,23 +2,18 @@
 
 #include <algorithm>
 
+#include "platform/CaseFolding.h"
+
 namespace orvanta {
 
 namespace {
-
-char lowerAscii(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-}
-char upperAscii(char c) {
-    return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-}
 
 // Iterative matcher with one backtrack point for the last "*": linear in practice, never recursive.
 bool matchPlain(std::string_view name, std::string_view pattern) {
     std::size_t n = 0, p = 0;
     std::size_t starPattern = std::string_view::npos, starName = 0;
     while (n < name.size()) {
-        if (p < pattern.size() && (pattern[p] == '?' || lowerAscii(pattern[p]) == lowerAscii(name[n]))) {
+        if (p < pattern.size() && (pattern[p] == '?' || lowerCase(pattern[p]) == lowerCase(name[n]))) {
             ++n;
             ++p;
         } else if (p < pattern.size() && pattern[p] == '*') {
@@ -69,6 +64,11 @@ std::string joinPath(std::string_view folder, std::string_view name) {
     return result;
 }
 
+std::string withBackslashes(std::string path) {
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
 std::vector<std::string> pathComponents(std::string_view path) {
     std::vector<std::string> parts;
     std::size_t start = 0;
@@ -78,23 +78,6 @@ std::vector<std::string> pathComponents(std::string_view path) {
         start = end + 1;
     }
     return parts;
-}
-
-bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return lowerAscii(x) == lowerAscii(y); });
-}
-
-std::string toLowerAscii(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), lowerAscii);
-    return result;
-}
-
-std::string toUpperAscii(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), upperAscii);
-    return result;
 }
 
 }  // namespace orvanta

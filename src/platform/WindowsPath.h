@@ -18,11 +18,9 @@ std::string parentFolder(std::string_view path);
 std::string lastComponent(std::string_view path);
 // Joins with exactly one backslash between the two parts.
 std::string joinPath(std::string_view folder, std::string_view name);
+// Every "/" turned into "\\", which Windows takes for the same separator.
+std::string withBackslashes(std::string path);
 // Splits at backslashes, dropping empty pieces: "C:\a\\b\" -> {"C:", "a", "b"}.
 std::vector<std::string> pathComponents(std::string_view path);
-
-bool equalsIgnoringCase(std::string_view a, std::string_view b);
-std::string toLowerAscii(std::string_view text);
-std::string toUpperAscii(std::string_view text);
 
 }  // namespace orvanta

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "project/EditorControls.h"
 #include "project/ProjectPaths.h"
@@ -15,7 +16,7 @@ namespace {
 bool isFontFile(const std::string& name) {
     static constexpr std::array<std::string_view, 4> kEndings = {"otf", "ttf", "fon", "fnt"};
     if (name.size() < 3) return false;
-    const std::string ending = toLowerAscii(name.substr(name.size() - 3));
+    const std::string ending = toLowerCase(name.substr(name.size() - 3));
     return std::find(kEndings.begin(), kEndings.end(), ending) != kEndings.end();
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "project/LineFile.h"
 #include "project/ProjectPaths.h"
@@ -116,7 +117,7 @@ private:
 };
 
 bool isRecordName(const std::string& name) {
-    return name != "." && name != ".." && toLowerAscii(name).ends_with("hsh");
+    return name != "." && name != ".." && toLowerCase(name).ends_with("hsh");
 }
 
 // The records of the folder: every file whose name ends in "hsh" in any case. Pending messages

@@ -2,6 +2,7 @@
 
 #include <cctype>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "project/ProjectPaths.h"
 
@@ -24,7 +25,7 @@ void removeFrom(Host& host, const std::string& folder) {
 
 bool isLeftoverTemporary(const std::string& name) {
     if (name.find(".~ovtmp-") != std::string::npos) return true;
-    const std::string lower = toLowerAscii(name);
+    const std::string lower = toLowerCase(name);
     return lower.size() > 7 && lower.starts_with("ovt") && lower.ends_with(".tmp") &&
            isHexDigits(lower.substr(3, lower.size() - 7));
 }

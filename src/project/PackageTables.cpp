@@ -1,9 +1,9 @@
 #include "project/PackageTables.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "core/RuntimeError.h"
+#include "platform/CaseFolding.h"
 #include "project/NumberText.h"
 
 namespace orvanta {
@@ -13,12 +13,6 @@ namespace {
 void checkSlot(int index) {
     if (index < 0 || index > kLastPackageSlot)
         throw RuntimeError(kErrorNumberSubscriptOutOfRange, "Subscript out of range");
-}
-
-bool equalsIgnoringCase(const std::string& text, const std::string& word) {
-    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](char a, char b) {
-        return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
-    });
 }
 
 }  // namespace

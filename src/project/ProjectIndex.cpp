@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 
+#include "platform/CaseFolding.h"
 #include "project/LineFile.h"
 #include "project/ProjectPaths.h"
 
@@ -14,14 +14,9 @@ namespace {
 constexpr std::string_view kForbiddenCharacters = "\\/:*?\"<>|";
 constexpr std::array<std::string_view, 6> kReservedNames = {"CON", "PRN", "AUX", "NUL", "COM", "LPT"};
 
-std::string upper(std::string text) {
-    for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    return text;
-}
-
 // Device names stay devices with any extension ("nul.txt"); COM and LPT count with a digit.
 bool isDeviceName(const std::string& name) {
-    const std::string stem = upper(name.substr(0, name.find('.')));
+    const std::string stem = toUpperCase(name.substr(0, name.find('.')));
     for (std::string_view reserved : kReservedNames) {
         if (stem == reserved) return reserved != "COM" && reserved != "LPT";
         if (stem.size() == 4 && stem.compare(0, 3, reserved) == 0 && stem[3] >= '1' && stem[3] <= '9')

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "core/commonFunctions.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 
 namespace orvanta {
@@ -61,7 +62,7 @@ std::optional<std::string> above(std::string_view path, int n, std::string_view 
         if (cut == std::string_view::npos) return std::nullopt;
         path = path.substr(0, cut);
     }
-    if (toLowerAscii(lastComponentOf(path)) != expected) return std::nullopt;
+    if (toLowerCase(lastComponentOf(path)) != expected) return std::nullopt;
     const auto cut = path.rfind('\\');
     if (cut == std::string_view::npos) return std::nullopt;
     return std::string(path.substr(0, cut));

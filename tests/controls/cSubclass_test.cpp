@@ -99,20 +99,6 @@ TEST_F(Subclassing, The33rdMessageOfATableGivesTheOverflowText) {
     EXPECT_EQ(dialogs.messageBoxes.size(), 1u);
 }
 
-TEST(MessageTable, AllMessagesAbsorbsAddsAndOnlyItsOwnDeletion) {
-    MessageTable table;
-    EXPECT_EQ(table.add(ALL_MESSAGES), MessageTable::Change::Done);
-    for (int message = 1; message <= 40; ++message) EXPECT_EQ(table.add(message), MessageTable::Change::Done);
-    EXPECT_TRUE(table.contains(12345));
-    EXPECT_EQ(table.remove(ALL_MESSAGES), MessageTable::Change::Done);
-    EXPECT_FALSE(table.contains(1));
-    EXPECT_TRUE(table.empty());
-    table.add(7);
-    table.add(7);
-    table.remove(7);
-    EXPECT_FALSE(table.contains(7)) << "a number is held once";
-}
-
 TEST_F(Subclassing, EveryRefusalShowsItsText) {
     subclass.sc_UnSubclass(&window);
     subclass.sc_Subclass(nullptr, 0, recorder());

@@ -4,6 +4,7 @@
 
 #include "core/CommondialogBox.h"
 #include "core/SpecialFolderAPI.h"
+#include "support/FailingHost.h"
 #include "support/Sandbox.h"
 #include "support/ScriptedDialogs.h"
 
@@ -43,24 +44,49 @@ TEST(WindowsVersionName, FollowsTheVersionWords) {
     }
 }
 
-TEST(ShellOpen, OnlyAMissingFileIsReportedAndOnlyWithTaskDialogs) {
-    EXPECT_EQ(shellErrorText(2), "File not found.");
-    EXPECT_EQ(shellErrorText(3), "Caminho n\xE3o encontrado.");
-    EXPECT_EQ(shellErrorText(32), "The specified dynamic-link library was not found. ");
-    EXPECT_EQ(shellErrorText(4), "");
+// Says what could not be opened, with the shell's reason, in the system's form of a message.
+class ShellFailureHost : public testing::FailingHost {
+public:
+    ShellFailureHost(Host& inner, int code) : FailingHost(inner), code_(code) {}
+    int shellExecute(const std::string&, const std::string&, int) override { return code_; }
 
-    for (const VersionWords words : {VersionWords{6, 1}, VersionWords{5, 1}}) {
+private:
+    int code_;
+};
+
+TEST(ShellOpen, EveryFailureNamesWhatCouldNotBeOpened) {
+    EXPECT_EQ(shellErrorText(3), "Caminho n\xE3o encontrado.");
+    EXPECT_EQ(shellErrorText(4), "");
+    struct Row {
+        VersionWords words;
+        int code;
+        const char* reason;
+    };
+    const Row rows[] = {{{6, 1}, 2, "File not found."},
+                        {{5, 1}, 31, "There's no application available for this filetype."},
+                        {{6, 0}, 32, "The specified dynamic-link library was not found. "},
+                        {{10, 0}, 0, "The system gave the error 0."}};
+    for (const Row& row : rows) {
         testing::Sandbox box;
-        box.config().versionWords = words;
+        box.config().versionWords = row.words;
+        ShellFailureHost host(box.host(), row.code);
         testing::ScriptedDialogs dialogs;
-        shellOpen(box.host(), dialogs, box.windowsPath("missing.txt"), "");
-        const std::size_t expected = words.major == 6 ? 1 : 0;
-        ASSERT_EQ(dialogs.messageBoxes.size(), expected);
-        if (expected) {
-            EXPECT_EQ(dialogs.messageBoxes[0].text, "File not found.");
+        shellOpen(host, dialogs, "C:\\p\\changelog.txt", "");
+        const std::string instruction = "Could not open C:\\p\\changelog.txt";
+        if (row.words.major == 6) {
+            ASSERT_EQ(dialogs.taskDialogs.size(), 1u) << row.code;
+            EXPECT_EQ(dialogs.taskDialogs[0].instruction, instruction);
+            EXPECT_EQ(dialogs.taskDialogs[0].content, row.reason);
+        } else {
+            ASSERT_EQ(dialogs.messageBoxes.size(), 1u) << row.code;
+            EXPECT_EQ(dialogs.messageBoxes[0].text, instruction + "\r\n" + row.reason);
         }
-        EXPECT_TRUE(dialogs.taskDialogs.empty());
     }
+    testing::Sandbox box;
+    ShellFailureHost opened(box.host(), 42);
+    testing::ScriptedDialogs dialogs;
+    shellOpen(opened, dialogs, "https://example.org", "");
+    EXPECT_TRUE(dialogs.messageBoxes.empty() && dialogs.taskDialogs.empty());
 }
 
 TEST(SpecialFolders, EndWithABackslash) {

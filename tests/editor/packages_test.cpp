@@ -1,7 +1,7 @@
 #include "editor/packages.h"
 
 #include "PackagesFixture.h"
-#include "editor/PackageLocation.h"
+#include "editor/rules/PackageLocation.h"
 
 namespace orvanta::testing {
 namespace {

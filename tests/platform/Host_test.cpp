@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
+#include "platform/AnsiText.h"
 #include "support/Sandbox.h"
 
 namespace orvanta {
@@ -136,6 +138,22 @@ TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTarget) {
 TEST_F(HostFiles, RenameMayChangeOnlyTheCaseOfAName) {
     ASSERT_TRUE(host.renameFile(at("a.txt"), at("A.TXT")));
     EXPECT_EQ(namesOf(host.listDirectory(at("a.txt"), false)), (std::vector<std::string>{"A.TXT"}));
+}
+
+// Dialogs and Qt speak UTF-8; the system speaks the ANSI code page. A non-ASCII name must come
+// through both conversions whole, on Windows as on POSIX.
+TEST_F(HostFiles, NonAsciiNamesSurviveTheWayToAndFromDialogs) {
+    if (host.ansiCodePage() != 1252) GTEST_SKIP() << "the names below are Windows-1252";
+    const std::string file = at("\xC4rger \xE9t\xE9.txt");
+    ASSERT_TRUE(host.writeFileAtomic(file, "x"));
+    const std::string hostPath = host.toHostPath(file);
+    EXPECT_TRUE(hostPath.ends_with("\xC3\x84rger \xC3\xA9t\xC3\xA9.txt")) << hostPath;
+    EXPECT_EQ(host.toWindowsPath(hostPath), file);
+    std::u8string utf8;
+    for (char c : hostPath) utf8 += static_cast<char8_t>(c);
+    EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(utf8)));
+    EXPECT_EQ(ansiToUtf8("\x80\xC4"), "\xE2\x82\xAC\xC3\x84");
+    EXPECT_EQ(utf8ToAnsi("\xE2\x82\xAC\xC3\x84\xC4\x81"), "\x80\xC4?") << "a letter outside the code page";
 }
 
 TEST_F(HostFiles, FoldersAreMadeAndRemovedOneEmptyLevelAtATime) {

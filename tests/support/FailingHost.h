@@ -88,6 +88,9 @@ public:
     int shellExecute(const std::string& file, const std::string& parameters, int showCommand) override {
         return inner_.shellExecute(file, parameters, showCommand);
     }
+    std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog& plan) override {
+        return inner_.showTaskDialog(plan);
+    }
 
     VersionWords versionWords() override { return inner_.versionWords(); }
     unsigned ansiCodePage() override { return inner_.ansiCodePage(); }

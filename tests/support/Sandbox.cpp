@@ -11,6 +11,12 @@ namespace orvanta::testing {
 
 namespace {
 
+// Hosts take their own paths in UTF-8, whatever the narrow code page of the C++ library.
+std::string utf8Of(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+}
+
 std::string uniqueName() {
     static std::atomic<unsigned> counter{0};
     std::random_device device;
@@ -46,7 +52,7 @@ Host& Sandbox::host() {
             // A first host gives the Windows form of the sandbox paths.
             auto namer = createHost(config_);
             programFolder_ = namer->applicationFolder();
-            const std::string root = namer->toWindowsPath(root_.string());
+            const std::string root = namer->toWindowsPath(utf8Of(root_));
             config_.applicationFolder = root + "\\app";
             config_.specialFolders.emplace_back(5, root + "\\Documents");
         }
@@ -66,7 +72,7 @@ std::string Sandbox::programFolder() {
 }
 
 std::string Sandbox::windowsRoot() {
-    return host().toWindowsPath(root_.string());
+    return host().toWindowsPath(utf8Of(root_));
 }
 
 std::string Sandbox::windowsPath(const std::string& relative) {

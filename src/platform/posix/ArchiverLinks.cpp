@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/posix/ProgramSearch.h"
 

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include "platform/AnsiText.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 
 namespace orvanta {
@@ -15,30 +16,13 @@ bool pathExists(const std::string& path) {
     return lstat(path.c_str(), &info) == 0;
 }
 
-// Lower case in Windows-1252, accented letters included, as NTFS compares names.
-char lowerWindows1252(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    if ((byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7))
-        return static_cast<char>(byte + 0x20);
-    if (byte == 0x8A || byte == 0x8C || byte == 0x8E) return static_cast<char>(byte + 0x10);
-    if (byte == 0x9F) return static_cast<char>(0xFF);
-    return c;
-}
-
-bool equalsIgnoringWindows1252Case(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-        if (lowerWindows1252(a[i]) != lowerWindows1252(b[i])) return false;
-    return true;
-}
-
 // The entry of `folder` whose name equals `name` ignoring case, or empty.
 std::string findIgnoringCase(const std::string& folder, const std::string& ansiName) {
     DIR* directory = opendir(folder.empty() ? "." : folder.c_str());
     if (directory == nullptr) return {};
     std::string found;
     while (const dirent* entry = readdir(directory)) {
-        if (equalsIgnoringWindows1252Case(utf8ToWindows1252(entry->d_name), ansiName)) {
+        if (equalsIgnoringCase(utf8ToWindows1252(entry->d_name), ansiName)) {
             found = entry->d_name;
             break;
         }
@@ -64,7 +48,7 @@ std::string DriveMap::toHostPath(std::string_view windowsPath) const {
         if (c == '/') c = '\\';
     std::string current;
     if (path.size() >= 2 && path[1] == ':') {
-        const char drive = static_cast<char>(path[0] | 0x20);
+        const char drive = lowerCase(path[0]);
         if (drive == 'z') {
             current = "/";
         } else if (drive == 'c') {

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/posix/AtomicFile.h"
 
@@ -71,7 +72,7 @@ bool parseLine(const std::string& line, std::map<std::string, StoredKey>& keys, 
     if (kind == "K" && second.empty()) {
         std::string path;
         if (!fromHex(first, path) || path.empty()) return false;
-        current = &keys[toLowerAscii(path)];
+        current = &keys[toLowerCase(path)];
         current->path = path;
         return true;
     }
@@ -79,7 +80,7 @@ bool parseLine(const std::string& line, std::map<std::string, StoredKey>& keys, 
     if (kind != "V" || current == nullptr || !fromHex(first, value.name) || !parseType(second, value.type) ||
         !fromHex(third, value.data))
         return false;
-    current->values[toLowerAscii(value.name)] = value;
+    current->values[toLowerCase(value.name)] = value;
     return true;
 }
 
@@ -119,7 +120,7 @@ bool FileKeyStore::save(const Keys& keys) const {
 }
 
 bool FileKeyStore::keyExists(const std::string& path) const {
-    return load().count(toLowerAscii(normalizeKey(path))) != 0;
+    return load().count(toLowerCase(normalizeKey(path))) != 0;
 }
 
 bool FileKeyStore::createKey(const std::string& path) {
@@ -128,7 +129,7 @@ bool FileKeyStore::createKey(const std::string& path) {
     bool changed = false;
     for (const auto& part : pathComponents(path)) {
         partial += (partial.empty() ? "" : "\\") + part;
-        auto [entry, inserted] = keys.try_emplace(toLowerAscii(partial));
+        auto [entry, inserted] = keys.try_emplace(toLowerCase(partial));
         if (inserted) entry->second.path = partial;
         changed |= inserted;
     }
@@ -137,9 +138,9 @@ bool FileKeyStore::createKey(const std::string& path) {
 
 std::optional<StoredValue> FileKeyStore::findValue(const std::string& path, const std::string& name) const {
     const auto keys = load();
-    const auto key = keys.find(toLowerAscii(normalizeKey(path)));
+    const auto key = keys.find(toLowerCase(normalizeKey(path)));
     if (key == keys.end()) return std::nullopt;
-    const auto value = key->second.values.find(toLowerAscii(name));
+    const auto value = key->second.values.find(toLowerCase(name));
     if (value == key->second.values.end()) return std::nullopt;
     return value->second;
 }
@@ -148,9 +149,9 @@ bool FileKeyStore::setValue(const std::string& path, const std::string& name, st
                             const std::string& data) {
     if (!createKey(path)) return false;
     auto keys = load();
-    const auto key = keys.find(toLowerAscii(normalizeKey(path)));
+    const auto key = keys.find(toLowerCase(normalizeKey(path)));
     if (key == keys.end()) return false;
-    auto [value, inserted] = key->second.values.try_emplace(toLowerAscii(name));
+    auto [value, inserted] = key->second.values.try_emplace(toLowerCase(name));
     if (inserted) value->second.name = name;
     value->second.type = type;
     value->second.data = data;

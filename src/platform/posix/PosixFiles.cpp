@@ -11,6 +11,7 @@
 #include <limits>
 
 #include "platform/AnsiText.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/posix/AtomicFile.h"
 #include "platform/posix/DosAttributes.h"
@@ -48,21 +49,6 @@ bool isDots(const std::string& name) {
     return name == "." || name == "..";
 }
 
-unsigned char lowerByte(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte - 'A' + 'a') : byte;
-}
-
-// Compared in place: a folder of many entries makes this the sort's inner loop.
-int compareIgnoringCase(const std::string& a, const std::string& b) {
-    const std::size_t common = std::min(a.size(), b.size());
-    for (std::size_t i = 0; i < common; ++i) {
-        const unsigned char x = lowerByte(a[i]), y = lowerByte(b[i]);
-        if (x != y) return x < y ? -1 : 1;
-    }
-    return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
-}
-
 // NTFS lists "." and ".." first and the rest in name order, ignoring case.
 bool listingOrder(const DirectoryEntry& a, const DirectoryEntry& b) {
     if (isDots(a.name) != isDots(b.name)) return isDots(a.name);
@@ -74,11 +60,6 @@ bool listingOrder(const DirectoryEntry& a, const DirectoryEntry& b) {
 bool isDriveRoot(std::string folder) {
     while (!folder.empty() && folder.back() == '\\') folder.pop_back();
     return folder.empty() || (folder.size() == 2 && folder[1] == ':');
-}
-
-std::string withBackslashes(std::string path) {
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return path;
 }
 
 class PosixFileReader : public FileReader {

@@ -14,8 +14,10 @@
 #include <thread>
 
 #include "platform/AnsiText.h"
+#include "platform/CaseFolding.h"
 #include "platform/WindowsCommandLine.h"
 #include "platform/WindowsPath.h"
+#include "platform/posix/DesktopOpener.h"
 #include "platform/posix/PosixHost.h"
 #include "platform/posix/ProgramSearch.h"
 
@@ -28,14 +30,14 @@ namespace {
 bool isBuiltinCommand(const std::string& program) {
     static const std::array<const char*, 11> kBuiltins = {"copy",   "del", "erase", "rd",    "rmdir", "xcopy",
                                                           "attrib", "dir", "md",    "mkdir", "echo"};
-    const std::string lower = toLowerAscii(program);
+    const std::string lower = toLowerCase(program);
     for (const char* builtin : kBuiltins)
         if (lower == builtin) return true;
     return false;
 }
 
 bool isBatchFile(const std::string& program) {
-    const std::string lower = toLowerAscii(program);
+    const std::string lower = toLowerCase(program);
     return lower.size() > 4 && (lower.ends_with(".bat") || lower.ends_with(".cmd"));
 }
 
@@ -45,7 +47,7 @@ bool looksLikeWindowsPath(const std::string& argument) {
 }
 
 bool endsWithExe(const std::string& name) {
-    return toLowerAscii(name).ends_with(".exe");
+    return toLowerCase(name).ends_with(".exe");
 }
 
 // "7z.exe" runs as "7z" when only the latter exists.
@@ -183,27 +185,17 @@ std::vector<std::string> PosixHost::processNames() {
     return names;
 }
 
-// The opener runs behind a shell that exits at once, so it is never our child to wait for.
 int PosixHost::shellExecute(const std::string& file, const std::string& parameters, int showCommand) {
-    const bool isAddress = file.find("://") != std::string::npos || toLowerAscii(file).starts_with("mailto:");
+    const bool isAddress = file.find("://") != std::string::npos || toLowerCase(file).starts_with("mailto:");
     const std::string target = isAddress ? windows1252ToUtf8(file) : toHostPath(file);
     if (!isAddress && (target.empty() || ::access(target.c_str(), F_OK) != 0)) return 2;
     // The shell runs a batch file, as Windows' does, rather than opening it in an editor.
-    const std::string lower = toLowerAscii(file);
+    const std::string lower = toLowerCase(file);
     if (!isAddress && (lower.ends_with(".bat") || lower.ends_with(".cmd"))) {
         const std::string command = "\"" + file + "\"" + (parameters.empty() ? "" : " " + parameters);
         return startProcess(command, showCommand) ? 42 : 31;
     }
-    if (findProgramOnPath("xdg-open", environmentSearchPath()).empty()) return 31;
-    const std::vector<std::string> detached = {"/bin/sh", "-c", "xdg-open \"$1\" >/dev/null 2>&1 &", "sh",
-                                               target};
-    const auto shell = spawn(detached);
-    if (!shell) return 31;
-    const int pid = static_cast<int>(*shell);
-    while (::waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
-    }
-    children_.erase(pid);
-    return 42;
+    return openWithDesktop(target);
 }
 
 }  // namespace orvanta

@@ -1,5 +1,6 @@
 // The registry of the POSIX host: the file store, plus the "App Paths" registrations of the
 // archivers, answered from the programs found on the search path.
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/posix/PosixHost.h"
 

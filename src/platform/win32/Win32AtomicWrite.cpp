@@ -2,6 +2,7 @@
 // final move never crosses volumes), reach the disk, and the move replaces the target in one step.
 #include <windows.h>
 
+#include "platform/WindowsPath.h"
 #include "platform/win32/Win32Host.h"
 
 namespace orvanta {
@@ -40,7 +41,7 @@ bool fillFile(const std::string& path, std::string_view contents) {
 }  // namespace
 
 bool Win32Host::writeFileAtomic(const std::string& path, std::string_view contents) {
-    const std::string target = toWindowsPath(path);
+    const std::string target = withBackslashes(path);
     if (target.empty()) return false;
     const DWORD kept = GetFileAttributesA(target.c_str());
     // Windows refuses to replace a read-only file or a folder; so do we, before any temporary exists.

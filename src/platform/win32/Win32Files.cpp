@@ -2,6 +2,7 @@
 // attributes and refusals are the system's own.
 #include <windows.h>
 
+#include "platform/CaseFolding.h"
 #include "platform/WindowsPath.h"
 #include "platform/win32/Win32FileReader.h"
 #include "platform/win32/Win32Host.h"
@@ -29,7 +30,7 @@ std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributeDataOf(const std::string& path
 
 std::vector<DirectoryEntry> Win32Host::listDirectory(const std::string& pattern, bool includeFolders) {
     std::vector<DirectoryEntry> entries;
-    const std::string windowsPattern = toWindowsPath(pattern);
+    const std::string windowsPattern = withBackslashes(pattern);
     if (windowsPattern.empty()) return entries;
     WIN32_FIND_DATAA found{};
     HANDLE search = FindFirstFileA(windowsPattern.c_str(), &found);
@@ -43,23 +44,23 @@ std::vector<DirectoryEntry> Win32Host::listDirectory(const std::string& pattern,
 }
 
 std::optional<std::uint64_t> Win32Host::fileLength(const std::string& path) {
-    const auto data = attributeDataOf(toWindowsPath(path));
+    const auto data = attributeDataOf(withBackslashes(path));
     if (!data || (data->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return std::nullopt;
     return (std::uint64_t{data->nFileSizeHigh} << 32) | data->nFileSizeLow;
 }
 
 std::optional<std::uint32_t> Win32Host::fileAttributes(const std::string& path) {
-    const auto data = attributeDataOf(toWindowsPath(path));
+    const auto data = attributeDataOf(withBackslashes(path));
     if (!data) return std::nullopt;
     return data->dwFileAttributes;
 }
 
 bool Win32Host::setFileAttributes(const std::string& path, std::uint32_t attributes) {
-    return SetFileAttributesA(toWindowsPath(path).c_str(), attributes) != 0;
+    return SetFileAttributesA(withBackslashes(path).c_str(), attributes) != 0;
 }
 
 std::unique_ptr<FileReader> Win32Host::openForReading(const std::string& path) {
-    HANDLE file = CreateFileA(toWindowsPath(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+    HANDLE file = CreateFileA(withBackslashes(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
                               nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) return nullptr;
     return std::make_unique<Win32FileReader>(file);
@@ -67,13 +68,13 @@ std::unique_ptr<FileReader> Win32Host::openForReading(const std::string& path) {
 
 bool Win32Host::copyFile(const std::string& from, const std::string& to) {
     // Windows refuses to overwrite a read-only file; wine does not, so the rule is kept here.
-    const DWORD target = GetFileAttributesA(toWindowsPath(to).c_str());
+    const DWORD target = GetFileAttributesA(withBackslashes(to).c_str());
     if (target != INVALID_FILE_ATTRIBUTES && (target & FILE_ATTRIBUTE_READONLY) != 0) return false;
-    return CopyFileA(toWindowsPath(from).c_str(), toWindowsPath(to).c_str(), FALSE) != 0;
+    return CopyFileA(withBackslashes(from).c_str(), withBackslashes(to).c_str(), FALSE) != 0;
 }
 
 bool Win32Host::renameFile(const std::string& from, const std::string& to) {
-    const std::string source = toWindowsPath(from), target = toWindowsPath(to);
+    const std::string source = withBackslashes(from), target = withBackslashes(to);
     if (!equalsIgnoringCase(source, target) || source == target)
         return MoveFileA(source.c_str(), target.c_str()) != 0;
     // A change of case only goes through a second name, which wine needs to show the new case.
@@ -85,20 +86,20 @@ bool Win32Host::renameFile(const std::string& from, const std::string& to) {
 }
 
 bool Win32Host::deleteFile(const std::string& path) {
-    return DeleteFileA(toWindowsPath(path).c_str()) != 0;
+    return DeleteFileA(withBackslashes(path).c_str()) != 0;
 }
 
 bool Win32Host::createFolder(const std::string& path) {
-    return CreateDirectoryA(toWindowsPath(path).c_str(), nullptr) != 0;
+    return CreateDirectoryA(withBackslashes(path).c_str(), nullptr) != 0;
 }
 
 bool Win32Host::removeFolder(const std::string& path) {
-    return RemoveDirectoryA(toWindowsPath(path).c_str()) != 0;
+    return RemoveDirectoryA(withBackslashes(path).c_str()) != 0;
 }
 
 std::optional<DiskSpace> Win32Host::diskSpace(const std::string& root) {
     DWORD sectorsPerCluster = 0, bytesPerSector = 0, freeClusters = 0, totalClusters = 0;
-    if (!GetDiskFreeSpaceA(toWindowsPath(root).c_str(), &sectorsPerCluster, &bytesPerSector, &freeClusters,
+    if (!GetDiskFreeSpaceA(withBackslashes(root).c_str(), &sectorsPerCluster, &bytesPerSector, &freeClusters,
                            &totalClusters))
         return std::nullopt;
     return DiskSpace{sectorsPerCluster, bytesPerSector, freeClusters, totalClusters};

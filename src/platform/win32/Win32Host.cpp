@@ -5,6 +5,9 @@
 
 #include <algorithm>
 
+#include "platform/AnsiText.h"
+#include "platform/WindowsPath.h"
+
 namespace orvanta {
 
 namespace {
@@ -50,14 +53,15 @@ std::string argumentsOf(std::string_view line) {
 
 Win32Host::Win32Host(const HostConfig& config) : config_(config), registryRoots_(config.registrySandboxKey) {}
 
+// The host's own form is UTF-8, as dialogs and terminals give it, so no name is lost to the code page.
 std::string Win32Host::toHostPath(const std::string& windowsPath) {
-    return toWindowsPath(windowsPath);
+    std::string path = ansiToUtf8(windowsPath);
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
 }
 
 std::string Win32Host::toWindowsPath(const std::string& hostPath) {
-    std::string path = hostPath;
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return path;
+    return withBackslashes(utf8ToAnsi(hostPath));
 }
 
 std::string Win32Host::specialFolder(int csidl) {

@@ -1,6 +1,6 @@
 #pragma once
 // The host on Windows: the real file, registry, shell and process calls, in their ANSI forms.
-// Paths need no mapping here; only "/" is turned into "\".
+// Paths need no drive mapping here: the host's own form is the same path in UTF-8.
 
 #include <map>
 #include <string>
@@ -51,6 +51,7 @@ public:
 
     VersionWords versionWords() override;
     unsigned ansiCodePage() override;
+    std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog& plan) override;
     std::uint64_t tickMilliseconds() override;
 
 private:

@@ -15,9 +15,9 @@ TEST(NativeTaskDialog, PlansTextsButtonsAndIconsFromTheRequest) {
     request.verificationChecked = true;
     request.mainIcon = MessageIcon::Exclamation;
     request.commonButtons = MessageButtons::YesNoCancel;
-    NativeTaskDialogPlan plan = planNativeTaskDialog(request);
-    EXPECT_EQ(plan.windowTitle, L"Orvanta");
-    EXPECT_EQ(plan.mainInstruction, L"Caf\u00E9 closed");
+    NativeTaskDialog plan = planNativeTaskDialog(request);
+    EXPECT_EQ(plan.windowTitle, "Orvanta");
+    EXPECT_EQ(plan.mainInstruction, "Caf\xE9 closed");
     EXPECT_EQ(plan.commonButtons, 2 | 4 | 8);  // yes, no, cancel
     EXPECT_TRUE(plan.buttons.empty());
     EXPECT_EQ(plan.mainIcon, -1);
@@ -40,7 +40,7 @@ TEST(NativeTaskDialog, PlansTextsButtonsAndIconsFromTheRequest) {
     request.defaultButton = 101;
     plan = planNativeTaskDialog(request);
     ASSERT_EQ(plan.buttons.size(), 2u);
-    EXPECT_EQ(plan.buttons[1], (std::pair<int, std::wstring>{101, L"Close"}));
+    EXPECT_EQ(plan.buttons[1], (std::pair<int, std::string>{101, "Close"}));
     EXPECT_EQ(plan.defaultButton, 101);
 }
 

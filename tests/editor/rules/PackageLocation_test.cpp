@@ -1,4 +1,4 @@
-#include "editor/PackageLocation.h"
+#include "editor/rules/PackageLocation.h"
 
 #include <gtest/gtest.h>
 

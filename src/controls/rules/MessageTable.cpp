@@ -1,4 +1,4 @@
-#include "controls/MessageTable.h"
+#include "controls/rules/MessageTable.h"
 
 #include <cstdint>
 #include <cstdio>

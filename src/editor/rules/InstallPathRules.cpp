@@ -1,9 +1,10 @@
-#include "editor/InstallPathRules.h"
+#include "editor/rules/InstallPathRules.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <string_view>
+
+#include "platform/CaseFolding.h"
 
 namespace orvanta {
 
@@ -22,18 +23,10 @@ constexpr std::array<std::string_view, 6> kRoots = {kLocal,   kProgramFiles, kAl
 constexpr std::array<std::string_view, 5> kRootsWithoutAuthor = {kMyDocuments, kRoaming, kThemes,
                                                                  kProgramFiles, kLocal};
 
-std::string lowered(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return result;
-}
-
 template <std::size_t N>
 bool containsAnyIgnoringCase(const std::string& text, const std::array<std::string_view, N>& roots) {
-    const std::string low = lowered(text);
     return std::any_of(roots.begin(), roots.end(),
-                       [&](std::string_view root) { return low.find(lowered(root)) != std::string::npos; });
+                       [&](std::string_view root) { return containsIgnoringCase(text, root); });
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "controls/ModBrowse.h"
+#include "controls/rules/ModBrowse.h"
 
 #include "core/commonFunctions.h"
 

@@ -1,6 +1,6 @@
-#include "controls/BFFC.h"
+#include "controls/rules/BFFC.h"
 
-#include "controls/ModBrowse.h"
+#include "controls/rules/ModBrowse.h"
 
 namespace orvanta {
 
