@@ -1,6 +1,5 @@
 #include "project/IntegrityRecord.h"
 
-#include <algorithm>
 
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
@@ -131,17 +130,13 @@ std::vector<std::string> recordsIn(Host& host, const std::string& folder) {
     return names;
 }
 
-// One record survives every step: the extra ones go first, then the survivor takes the new text
-// in one atomic write and its new name in one rename.
+// The new record is written whole under its own name before the old ones go, so a save stopped at
+// any point leaves at least one record, each of them true to its name.
 bool replaceRecord(Host& host, const std::string& folder, const std::string& name, const std::string& text) {
-    auto records = recordsIn(host, folder);
-    const auto same = std::find(records.begin(), records.end(), name);
-    if (same != records.end()) std::iter_swap(records.begin(), same);
-    for (std::size_t i = 1; i < records.size(); ++i) host.deleteFile(inFolder(folder, records[i]));
-    const std::string target = inFolder(folder, name);
-    if (records.empty() || records.front() == name) return host.writeFileAtomic(target, text);
-    const std::string survivor = inFolder(folder, records.front());
-    return host.writeFileAtomic(survivor, text) && host.renameFile(survivor, target);
+    if (!host.writeFileAtomic(inFolder(folder, name), text)) return false;
+    for (const std::string& record : recordsIn(host, folder))
+        if (record != name) host.deleteFile(inFolder(folder, record));
+    return true;
 }
 
 }  // namespace
