@@ -115,6 +115,9 @@ public:
     virtual bool renameFile(const std::string& from, const std::string& to) = 0;  // fails if `to` exists
     virtual bool deleteFile(const std::string& path) = 0;
     virtual bool createFolder(const std::string& path) = 0;  // one level; false if it exists
+    // The system's words for why the last createFolder of this host failed, in the ANSI code page;
+    // empty when the host cannot tell.
+    virtual std::string lastFolderError() { return {}; }
     virtual bool removeFolder(const std::string& path) = 0;  // only an empty folder
     virtual std::optional<DiskSpace> diskSpace(const std::string& root) = 0;
 

@@ -96,9 +96,11 @@ std::vector<std::string> missingWorkspaceFolders(Host& host, const std::string& 
     return missing;
 }
 
-std::string whyNotCreated(Host& host, const std::string& folder) {
+std::string whyNotCreated(Host& host, const std::string& folder, const std::string& systemError) {
     if (host.fileAttributes(folder)) return "a file of that name is in the way.";
-    return "the system refused it. Check that you may write to \"" + parentOf(folder) +
+    const std::string refusal =
+        systemError.empty() ? "the system refused it." : "the system said \"" + systemError + "\".";
+    return refusal + " Check that you may write to \"" + parentOf(folder) +
            "\" and that its drive is neither full nor read-only.";
 }
 
@@ -116,7 +118,7 @@ std::optional<FolderFailure> createProjectTree(Host& host, const std::string& wo
     for (const std::string& folder : folders) {
         const std::optional<std::uint32_t> attributes = host.fileAttributes(folder);
         if (attributes.has_value() ? (*attributes & kAttributeDirectory) == 0 : !host.createFolder(folder))
-            return FolderFailure{folder, whyNotCreated(host, folder)};
+            return FolderFailure{folder, whyNotCreated(host, folder, host.lastFolderError())};
     }
     return std::nullopt;
 }

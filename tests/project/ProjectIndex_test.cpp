@@ -59,6 +59,14 @@ TEST_F(ProjectIndex, TheFirstProjectMakesTheWholeTreeAndTheListShowsIt) {
     EXPECT_EQ(folderFailureText(*blocked), "The folder\n" + workspace() +
                                                "\\myinstallers\\Blocked\\files\ncould not be created: a file "
                                                "of that name is in the way.");
+    // A folder the system refuses is named with the system's own words.
+    const std::string overlong = workspace() + "\\" + std::string(300, 'w');
+    const auto refused = createProjectTree(host, overlong, "My App");
+    ASSERT_TRUE(refused.has_value());
+    EXPECT_EQ(refused->folder, overlong);
+    EXPECT_NE(folderFailureText(*refused).find("the system said \"" + host.lastFolderError() + "\"."),
+              std::string::npos);
+    EXPECT_FALSE(host.lastFolderError().empty());
 }
 
 TEST_F(ProjectIndex, TheLongestPathCountsTheDeepestWorkingSetAndTheTemporaryName) {

@@ -50,6 +50,7 @@ public:
     }
     bool deleteFile(const std::string& path) override { return change(inner_.deleteFile(path)); }
     bool createFolder(const std::string& path) override { return change(inner_.createFolder(path)); }
+    std::string lastFolderError() override { return inner_.lastFolderError(); }
     bool removeFolder(const std::string& path) override { return change(inner_.removeFolder(path)); }
     std::optional<DiskSpace> diskSpace(const std::string& root) override { return inner_.diskSpace(root); }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <limits>
 
 #include "platform/AnsiText.h"
@@ -241,7 +242,13 @@ bool PosixHost::deleteFile(const std::string& path) {
 
 bool PosixHost::createFolder(const std::string& path) {
     const std::string hostPath = toHostPath(path);
-    return !hostPath.empty() && ::mkdir(hostPath.c_str(), 0777) == 0;
+    if (hostPath.empty()) {
+        lastFolderError_ = "The path lies on no drive of this system.";
+        return false;
+    }
+    if (::mkdir(hostPath.c_str(), 0777) == 0) return true;
+    lastFolderError_ = utf8ToAnsi(std::strerror(errno));
+    return false;
 }
 
 bool PosixHost::removeFolder(const std::string& path) {

@@ -33,6 +33,7 @@ public:
     bool renameFile(const std::string& from, const std::string& to) override;
     bool deleteFile(const std::string& path) override;
     bool createFolder(const std::string& path) override;
+    std::string lastFolderError() override { return lastFolderError_; }
     bool removeFolder(const std::string& path) override;
     std::optional<DiskSpace> diskSpace(const std::string& root) override;
 
@@ -78,6 +79,8 @@ private:
     std::optional<StoredValue> registrationValue(const std::string& keyPath, const std::string& name);
 
     std::optional<std::vector<std::string>> hostArguments(const std::string& commandLine);
+
+    std::string lastFolderError_;
     std::optional<std::vector<std::string>> programArguments(const std::vector<std::string>& words);
     std::optional<std::uint32_t> spawn(const std::vector<std::string>& arguments);
     std::string commandProcessor() const;

@@ -26,6 +26,17 @@ std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributeDataOf(const std::string& path
     return data;
 }
 
+// The system's own sentence for an error code, without the line break it ends in.
+std::string systemErrorText(DWORD code) {
+    char buffer[512] = {};
+    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                        code, 0, buffer, sizeof buffer, nullptr);
+    std::string text(buffer, length);
+    while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' '))
+        text.pop_back();
+    return text.empty() ? "System error " + std::to_string(code) + "." : text;
+}
+
 }  // namespace
 
 std::vector<DirectoryEntry> Win32Host::listDirectory(const std::string& pattern, bool includeFolders) {
@@ -90,7 +101,9 @@ bool Win32Host::deleteFile(const std::string& path) {
 }
 
 bool Win32Host::createFolder(const std::string& path) {
-    return CreateDirectoryA(withBackslashes(path).c_str(), nullptr) != 0;
+    if (CreateDirectoryA(withBackslashes(path).c_str(), nullptr) != 0) return true;
+    lastFolderError_ = systemErrorText(GetLastError());
+    return false;
 }
 
 bool Win32Host::removeFolder(const std::string& path) {

@@ -24,6 +24,7 @@ public:
     bool renameFile(const std::string& from, const std::string& to) override;
     bool deleteFile(const std::string& path) override;
     bool createFolder(const std::string& path) override;
+    std::string lastFolderError() override { return lastFolderError_; }
     bool removeFolder(const std::string& path) override;
     std::optional<DiskSpace> diskSpace(const std::string& root) override;
 
@@ -57,6 +58,7 @@ public:
 private:
     HostConfig config_;
     RegistryRoots registryRoots_;
+    std::string lastFolderError_;
 };
 
 }  // namespace orvanta
