@@ -80,7 +80,7 @@ TEST_F(Assets, UnreadableLogoEndsTheActionBeforeAnyCopyAndADamagedPngSaysWhy) {
     EXPECT_NE(dialogs.messageBoxes[1].text.find("1.jpg could not be shown"), std::string::npos);
 }
 
-TEST_F(Assets, AnyFileIsCopiedByItsNameAndRemoved) {
+TEST_F(Assets, AnyFileIsCopiedByItsNameAndRemovedUnlessItIsThereAlready) {
     sandbox.writeFile("elsewhere\\cleanup.bat", "@echo off\r\n");
     dialogs.answerNextOpenFile(sandbox.windowsPath("elsewhere\\cleanup.bat"));
     window->Command14_Click();
@@ -91,9 +91,8 @@ TEST_F(Assets, AnyFileIsCopiedByItsNameAndRemoved) {
     EXPECT_FALSE(sandbox.exists(projectRelative("cleanup.bat")));
     EXPECT_EQ(text("Text27"), "");
     EXPECT_FALSE(enabled("Command38"));
-}
 
-TEST_F(Assets, AnyFileFromTheWorkingSetItselfFillsTheFieldOnly) {
+    // One picked from the working set itself fills the field only.
     sandbox.writeFile(projectRelative("tool.exe"), "x");
     dialogs.answerNextOpenFile(projectRoot() + "\\tool.exe");
     window->Command14_Click();

@@ -6,20 +6,7 @@
 namespace orvanta::testing {
 namespace {
 
-TEST_F(PackagesManager, CancellingAnAddWritesNothing) {
-    open();
-    fillAddedPackage("Extras", "Themes\\Dark", "Skins");
-    button("Command3").click();
-    EXPECT_EQ(button("Command2").text(), "+");
-    EXPECT_EQ(button("Command3").text(), "-");
-    EXPECT_FALSE(button("Command3").isEnabled());
-    EXPECT_EQ(text("Text1").text(), "");
-    EXPECT_EQ(text("Text2").text(), "");
-    EXPECT_FALSE(box.exists(working + "\\packages.cfg"));
-    EXPECT_FALSE(box.exists(std::string(kRoot) + "\\packages\\Extras"));
-}
-
-TEST_F(PackagesManager, RefusedLocationsOnAddingKeepTheEditAsItWas) {
+TEST_F(PackagesManager, RefusedLocationsOnAddingKeepTheEditAsItWasAndCancelWritesNothing) {
     const struct {
         const char* location;
         std::string_view message;
@@ -43,7 +30,14 @@ TEST_F(PackagesManager, RefusedLocationsOnAddingKeepTheEditAsItWas) {
         EXPECT_EQ(Combo5().currentText(), row.location);
         button("Command3").click();
     }
+    // Cancelling the add clears the edit and writes nothing.
+    EXPECT_EQ(button("Command2").text(), "+");
+    EXPECT_EQ(button("Command3").text(), "-");
+    EXPECT_FALSE(button("Command3").isEnabled());
+    EXPECT_EQ(text("Text1").text(), "");
+    EXPECT_EQ(text("Text2").text(), "");
     EXPECT_FALSE(box.exists(working + "\\packages.cfg"));
+    EXPECT_FALSE(box.exists(std::string(kRoot) + "\\packages\\Extras"));
 
     // A bare drive and a folder below a token pass both rules.
     dialogs.messageBoxes.clear();

@@ -126,28 +126,32 @@ TEST(BmpReader, IndexedDepthsTakeTheirColoursFromTheTable) {
     }
 }
 
-TEST(BmpReader, SixteenBitsAsFiveFiveFiveAndAsBitFields) {
-    // 5-5-5: a full field is 255, and 16 of 31 scales to 131.
-    BmpRecipe plain{3, 1, 16, 0, {}, {}, packRows(16, {{0x7C00, 0x03E0, 0x0010}})};
-    c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(plain), surface));
-    expectOpaque(surface, {{0xFF0000, 0x00FF00, 0x000083}});
-    // 5-6-5 through bit fields, scaled the same way (32 of 63 is 129); a set top bit is not alpha here.
-    BmpRecipe fields{3, 1, 16, 3, {}, {0xF800, 0x07E0, 0x001F}, packRows(16, {{0xF800, 0x07E0, 0x8410}})};
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(fields), surface));
-    expectOpaque(surface, {{0xFF0000, 0x00FF00, 0x838183}});
-}
-
-TEST(BmpReader, TwentyFourBitsWithRowPaddingBottomUpAndTopDown) {
-    const std::vector<std::vector<std::uint32_t>> fileRows = {{0x010203, 0x040506, 0x070809},
-                                                              {0xFF0000, 0x00FF00, 0x0000FF}};
-    BmpRecipe recipe{3, 2, 24, 0, {}, {}, packRows(24, fileRows)};
-    c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
-    expectOpaque(surface, reversed(fileRows));
-    recipe.height = -2;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
-    expectOpaque(surface, fileRows);
+TEST(BmpReader, DirectColoursFollowTheirDepthMasksAndRowOrder) {
+    const std::vector<std::vector<std::uint32_t>> rgb = {{0x010203, 0x040506, 0x070809},
+                                                         {0xFF0000, 0x00FF00, 0x0000FF}};
+    const struct {
+        const char* name;
+        BmpRecipe recipe;
+        std::vector<std::vector<std::uint32_t>> expected;
+    } rows[] = {
+        {"5-5-5: a full field is 255, 16 of 31 is 131",
+         {3, 1, 16, 0, {}, {}, packRows(16, {{0x7C00, 0x03E0, 0x0010}})},
+         {{0xFF0000, 0x00FF00, 0x000083}}},
+        {"5-6-5 bit fields: 32 of 63 is 129, a set top bit is no alpha",
+         {3, 1, 16, 3, {}, {0xF800, 0x07E0, 0x001F}, packRows(16, {{0xF800, 0x07E0, 0x8410}})},
+         {{0xFF0000, 0x00FF00, 0x838183}}},
+        {"24 bits with row padding, bottom-up", {3, 2, 24, 0, {}, {}, packRows(24, rgb)}, reversed(rgb)},
+        {"24 bits top-down", {3, -2, 24, 0, {}, {}, packRows(24, rgb)}, rgb},
+        {"32-bit fields with red low and no alpha mask",
+         {2, 1, 32, 3, {}, {0x000000FF, 0x0000FF00, 0x00FF0000}, packRows(32, {{0x000000FF, 0x00FF0000}})},
+         {{0xFF0000, 0x0000FF}}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        c32bppDIB surface;
+        ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(row.recipe), surface));
+        expectOpaque(surface, row.expected);
+    }
 }
 
 struct AlphaCase {
@@ -192,15 +196,6 @@ TEST(BmpReader, ThirtyTwoBitsGoThroughTheAlphaCheck) {
     }
 }
 
-TEST(BmpReader, ThirtyTwoBitFieldsInAnotherOrder) {
-    // Red in the low byte, alpha mask empty: the colours follow the masks and the picture is opaque.
-    BmpRecipe recipe{
-        2, 1, 32, 3, {}, {0x000000FF, 0x0000FF00, 0x00FF0000}, packRows(32, {{0x000000FF, 0x00FF0000}})};
-    c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
-    expectOpaque(surface, {{0xFF0000, 0x0000FF}});
-}
-
 TEST(BmpReader, RunLengthCodedEightAndFourBits) {
     // RLE8, 6x3 bottom-up: a run, an absolute run of 3 (padded), end of line; a delta to (2,2);
     // a run of 2; end of bitmap. What the data skip stays black.
@@ -216,6 +211,9 @@ TEST(BmpReader, RunLengthCodedEightAndFourBits) {
     BmpRecipe spec4{5, 2, 4, 2, kPalette, {}, rle4};
     ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(spec4), surface));
     expectOpaque(surface, {{p3, p4, p5, k, k}, {p1, p2, p1, p2, p1}});
+    // Data cut short inside an absolute run keeps what came.
+    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp({3, 1, 8, 1, kPalette, {}, {2, 1, 0, 5, 2}}), surface));
+    expectOpaque(surface, {{p1, p1, k}});
 }
 
 TEST(BmpReader, ShortOrOversizedFilesFailWithAnEmptySurface) {
@@ -238,14 +236,6 @@ TEST(BmpReader, ShortOrOversizedFilesFailWithAnEmptySurface) {
     BmpRecipe fields8{2, 1, 8, 3, kPalette, {1, 2, 4}, packRows(8, {{0, 1}})};
     EXPECT_FALSE(cBMPparser().LoadStream(makeBmp(fields8), surface));
     EXPECT_EQ(surface.Handle(), 0u);
-}
-
-TEST(BmpReader, RunLengthDataCutShortKeepsWhatCame) {
-    const Bytes rle8 = {2, 1, 0, 5, 2};  // an absolute run of 5 with only one byte left
-    BmpRecipe recipe{3, 1, 8, 1, kPalette, {}, rle8};
-    c32bppDIB surface;
-    ASSERT_TRUE(cBMPparser().LoadStream(makeBmp(recipe), surface));
-    expectOpaque(surface, {{kPalette[1], kPalette[1], 0}});
 }
 
 }  // namespace

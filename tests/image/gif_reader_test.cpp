@@ -173,46 +173,35 @@ GifRecipe smallPicture(int width, int height) {
     return recipe;
 }
 
-TEST(GifReader, FirstFrameSmallerThanTheScreenLoadsAtTheFramesSize) {
-    GifRecipe recipe = smallPicture(5, 3);
-    recipe.screenWidth = 40;
-    recipe.screenHeight = 30;
-    c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
-    expectIndexes(surface, recipe, kFourColours);
-    EXPECT_FALSE(surface.Alpha());
-    EXPECT_EQ(surface.ImageType(), kImageGif);
-}
-
-TEST(GifReader, SignatureIsReadWithoutRegardToCase) {
-    for (const char* signature : {"GIF89A", "gif87a", "GiF87A"}) {
-        GifRecipe recipe = smallPicture(3, 2);
-        recipe.signature = signature;
+// Each row a picture of four colours and one thing a reader can get wrong about it.
+TEST(GifReader, PicturesLoadAtTheFramesSizeWithTheirTableAndTransparency) {
+    const struct {
+        const char* name;
+        void (*change)(GifRecipe&);
+    } rows[] = {
+        {"frame smaller than the screen",
+         [](GifRecipe& r) {
+             r.screenWidth = 40;
+             r.screenHeight = 30;
+         }},
+        {"signature in lower case", [](GifRecipe& r) { r.signature = "gif87a"; }},
+        {"signature in mixed case", [](GifRecipe& r) { r.signature = "GiF89A"; }},
+        {"transparent index", [](GifRecipe& r) { r.transparent = 2; }},
+        {"local table", [](GifRecipe& r) { r.localTable = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}; }},
+    };
+    for (const auto& row : rows) {
+        GifRecipe recipe = smallPicture(5, 3);
+        row.change(recipe);
         c32bppDIB surface;
-        EXPECT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface)) << signature;
+        ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface)) << row.name;
+        expectIndexes(surface, recipe, recipe.localTable.empty() ? kFourColours : recipe.localTable);
+        EXPECT_EQ(surface.Alpha(), recipe.transparent >= 0) << row.name;
+        EXPECT_EQ(surface.ImageType(), kImageGif) << row.name;
     }
     GifRecipe recipe = smallPicture(3, 2);
     recipe.signature = "GIF88a";
     c32bppDIB surface;
     EXPECT_FALSE(cGIFparser().LoadStream(makeGif(recipe), surface));
-}
-
-TEST(GifReader, TransparentIndexLeavesItsPixelsZeroAndSetsAlpha) {
-    GifRecipe recipe = smallPicture(6, 4);
-    recipe.transparent = 2;
-    c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
-    expectIndexes(surface, recipe, kFourColours);
-    EXPECT_TRUE(surface.Alpha());
-    EXPECT_EQ(surface.ImageType(), kImageGif);
-}
-
-TEST(GifReader, LocalTableWinsOverTheGlobalOne) {
-    GifRecipe recipe = smallPicture(4, 4);
-    recipe.localTable = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-    c32bppDIB surface;
-    ASSERT_TRUE(cGIFparser().LoadStream(makeGif(recipe), surface));
-    expectIndexes(surface, recipe, recipe.localTable);
 }
 
 TEST(GifReader, InterlacedRowsLandInPictureOrder) {

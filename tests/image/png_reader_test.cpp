@@ -36,18 +36,6 @@ TEST(PngReader, WrongIdatCrcLoadsOnlyWithoutZlib) {
     EXPECT_EQ(surface.Width(), 9);
 }
 
-TEST(PngReader, ZlibAndOwnInflateGiveTheSamePixels) {
-    for (const std::uint8_t interlace : {std::uint8_t{0}, std::uint8_t{1}}) {
-        PngRecipe recipe;
-        recipe.header = {61, 45, 8, 6, interlace};
-        const Bytes file = makePng(recipe);
-        c32bppDIB a, b;
-        ASSERT_TRUE(loads(file, a));
-        ASSERT_TRUE(loadsWithoutZlib(file, b));
-        EXPECT_EQ(0, std::memcmp(a.BitsPointer(), b.BitsPointer(), 61 * 45 * 4));
-    }
-}
-
 TEST(PngReader, DamagedFilesAreClaimedButLeaveTheSurfaceEmpty) {
     const Bytes good = makePng(rgbRecipe());
     c32bppDIB surface;
@@ -104,15 +92,6 @@ TEST(PngReader, PaletteOfOneBitWithoutPlteIsBlackAndWhite) {
     EXPECT_EQ(surface.GetPixel(2, 0), 0xFFFFFF);
     EXPECT_EQ(surface.GetPixel(3, 0), 0);
     EXPECT_FALSE(surface.Alpha());
-}
-
-TEST(PngReader, SixteenBitsCountByTheirHighBytes) {
-    PngRecipe recipe;
-    recipe.header = {1, 1, 16, 6, 0};
-    c32bppDIB surface;
-    // Red 0x12FF, green 0x3400, blue 0x5601, alpha 0xFFFF: the low bytes are lost.
-    ASSERT_TRUE(loads(makePng(recipe, pngIdat({0, 0x12, 0xFF, 0x34, 0, 0x56, 1, 0xFF, 0xFF})), surface));
-    EXPECT_EQ(surface.GetPixel(0, 0), 0x563412);
 }
 
 TEST(PngReader, InterlacedPicturesOfWidthOneAndTheSizeBound) {

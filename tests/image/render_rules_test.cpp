@@ -215,10 +215,3 @@ TEST(DropShadow, BoxAverageSpreadsDepthPixelsEachWay) {
 
 }  // namespace
 }  // namespace orvanta::testing
-
-namespace orvanta::testing {
-namespace {
-
-// The scaler's loop over inner pixels must give exactly what the one-pixel sampler gives.
-}  // namespace
-}  // namespace orvanta::testing

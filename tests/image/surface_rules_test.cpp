@@ -178,10 +178,6 @@ TEST(SurfaceEdits, MirrorAndCopy) {
     surface.CopyImageTo(copy, -2, 0);
     EXPECT_EQ(allWords(copy), (std::vector<std::uint32_t>{0xFF000002, 0xFF000001, 0xFF000004, 0xFF000003}));
     EXPECT_TRUE(copy.originalBytes().empty());
-    surface.setHighQualityInterpolation(false);
-    surface.CopyImageTo(copy, 4, 1);
-    EXPECT_EQ(copy.Width(), 4);
-    EXPECT_EQ(allWords(copy), (std::vector<std::uint32_t>{0xFF000003, 0xFF000003, 0xFF000004, 0xFF000004}));
 }
 
 TEST(SurfaceSave, BitmapLayoutOfBothDepths) {

@@ -177,7 +177,7 @@ TEST(MainSettingsFile, AnUnsetUpdateGroupLeavesFortyEightLines) {
     EXPECT_EQ(read->createRestorePoint, 0) << "the always-0 last line";
 }
 
-TEST(MainSettingsFile, AShortFileLeavesLaterFieldsUnset) {
+TEST(MainSettingsFile, AShortFileLeavesLaterFieldsUnsetAndNumberLinesConvertTheirOwnWay) {
     testing::Sandbox box;
     box.writeFile("short.cfg", "Demo\r\nAnn\r\n 1 ");
     const auto shortRead = readMainSettings(box.host(), box.windowsPath("short.cfg"));
@@ -187,10 +187,8 @@ TEST(MainSettingsFile, AShortFileLeavesLaterFieldsUnset) {
     EXPECT_FALSE(shortRead->appVersion);
 
     EXPECT_FALSE(readMainSettings(box.host(), box.windowsPath("missing.cfg")));
-}
 
-TEST(MainSettingsFile, NumberLinesUseTheirOwnConversion) {
-    testing::Sandbox box;
+    // Number lines use their own conversion.
     auto lines = kFullLines;
     lines[2] = " 1.7 ";   // startMenuShortcut: integer part
     lines[13] = " 0.7 ";  // noRepair: direct

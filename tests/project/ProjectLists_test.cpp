@@ -37,50 +37,43 @@ TEST(TextFiles, DoNotGrowOverSaveAndLoadAndKeepAnEmptyLastLine) {
     EXPECT_FALSE(readTextFile(host, box.windowsPath("missing.cfg")));
 }
 
-TEST(LocationLists, AnEmptyListIsWrittenAsAMarkThatKeepsTheList) {
+// The three kinds of short list differ only in what an empty list, the "<>" mark and a missing
+// file do to the list the editor holds.
+TEST(StringLists, EmptyListsMarksAndMissingFilesKeepOrClearByKind) {
+    using Write = bool (*)(Host&, const std::string&, const std::vector<std::string>&);
+    using Read = ListUpdate (*)(Host&, const std::string&);
+    const struct {
+        const char* file;
+        Write write;
+        Read read;
+        const char* emptyWritten;
+        bool emptyKeeps, markKeeps, missingKeeps;
+    } kinds[] = {
+        {"registrylocations.cfg", writeLocationList, readLocationList, "<>\r\n", true, true, true},
+        {"fonts.cfg", writeFontList, readFontList, "", false, true, true},
+        {"files.cfg", writeContentList, readContentList, "", false, false, false},
+    };
     testing::Sandbox box;
     Host& host = box.host();
-    const std::string path = box.windowsPath("registrylocations.cfg");
-    ASSERT_TRUE(writeLocationList(host, path, {}));
-    EXPECT_EQ(box.readFile("registrylocations.cfg"), "<>\r\n");
-    Items list = {"HKCU\\Software\\Old"};
-    applyListUpdate(readLocationList(host, path), list);
-    EXPECT_EQ(list, Items{"HKCU\\Software\\Old"});
-
-    ASSERT_TRUE(writeLocationList(host, path, {"a", "b"}));
-    EXPECT_EQ(box.readFile("registrylocations.cfg"), "a\r\nb\r\n");
-    applyListUpdate(readLocationList(host, path), list);
-    EXPECT_EQ(list, (Items{"a", "b"}));
-
-    EXPECT_EQ(readLocationList(host, box.windowsPath("missing.cfg")).action, ListAction::Keep);
-}
-
-TEST(FontLists, AnEmptyFileClearsAndTheMarkKeeps) {
-    testing::Sandbox box;
-    Host& host = box.host();
-    const std::string path = box.windowsPath("fonts.cfg");
-    ASSERT_TRUE(writeFontList(host, path, {}));
-    EXPECT_EQ(box.readFile("fonts.cfg"), "");
-    Items list = {"old.ttf"};
-    applyListUpdate(readFontList(host, path), list);
-    EXPECT_TRUE(list.empty());
-
-    list = {"old.ttf"};
-    box.writeFile("fonts.cfg", "<>\r\n");
-    applyListUpdate(readFontList(host, path), list);
-    EXPECT_EQ(list, Items{"old.ttf"});
-}
-
-TEST(ContentLists, ReplaceTheListEvenWhenTheFileIsMissing) {
-    testing::Sandbox box;
-    Host& host = box.host();
-    ASSERT_TRUE(writeContentList(host, box.windowsPath("files.cfg"), {"a.exe", "sub\\b.dll"}));
-    EXPECT_EQ(box.readFile("files.cfg"), "a.exe\r\nsub\\b.dll\r\n");
-    Items list = {"earlier.txt"};
-    applyListUpdate(readContentList(host, box.windowsPath("files.cfg")), list);
-    EXPECT_EQ(list, (Items{"a.exe", "sub\\b.dll"}));
-    applyListUpdate(readContentList(host, box.windowsPath("missing.cfg")), list);
-    EXPECT_TRUE(list.empty());
+    const Items old = {"earlier"};
+    const auto after = [&](const Read read, const std::string& file) {
+        Items list = old;
+        applyListUpdate(read(host, box.windowsPath(file)), list);
+        return list;
+    };
+    for (const auto& kind : kinds) {
+        const std::string path = box.windowsPath(kind.file);
+        ASSERT_TRUE(kind.write(host, path, {"a", "sub\\b"}));
+        EXPECT_EQ(box.readFile(kind.file), "a\r\nsub\\b\r\n") << kind.file;
+        EXPECT_EQ(after(kind.read, kind.file), (Items{"a", "sub\\b"})) << kind.file;
+        ASSERT_TRUE(kind.write(host, path, {}));
+        EXPECT_EQ(box.readFile(kind.file), kind.emptyWritten) << kind.file;
+        EXPECT_EQ(after(kind.read, kind.file), kind.emptyKeeps ? old : Items{}) << kind.file << ", empty";
+        box.writeFile(kind.file, "<>\r\n");
+        EXPECT_EQ(after(kind.read, kind.file), kind.markKeeps ? old : Items{"<>"}) << kind.file << ", mark";
+        EXPECT_EQ(after(kind.read, "missing.cfg"), kind.missingKeeps ? old : Items{})
+            << kind.file << ", missing";
+    }
 }
 
 TEST(DependencyLists, WriteNameAndBlankedFlagAndReadEitherFlagForm) {
@@ -101,22 +94,6 @@ TEST(DependencyLists, WriteNameAndBlankedFlagAndReadEitherFlagForm) {
     EXPECT_TRUE(odd[0].selected);
     EXPECT_FALSE(odd[1].selected);
     EXPECT_EQ(odd[2].name, "e.dll");
-}
-
-TEST(PackageLists, SevenLinesAPackageWithBareFlags) {
-    testing::Sandbox box;
-    Host& host = box.host();
-    const std::string path = box.windowsPath("packages.cfg");
-    const std::vector<Package> packages = {{"Extras", "Program Files\\", "More", "1", "0", "2048", "1"},
-                                           {"Docs", "<>", "", "0", "1", "0", "0"}};
-    ASSERT_TRUE(writePackageList(host, path, packages));
-    EXPECT_EQ(
-        box.readFile("packages.cfg"),
-        "Extras\r\nProgram Files\\\r\nMore\r\n1\r\n0\r\n2048\r\n1\r\nDocs\r\n<>\r\n\r\n0\r\n1\r\n0\r\n0\r\n");
-    std::vector<Package> slots;
-    EXPECT_EQ(readPackageList(host, path, slots), 2u);
-    EXPECT_EQ(slots[1].name, "Docs");
-    EXPECT_EQ(slots[0].occupiedSpace, "2048");
 }
 
 TEST(PackageLists, ACutBlockCountsAndKeepsTheOldFieldsOfItsSlot) {

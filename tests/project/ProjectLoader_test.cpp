@@ -113,13 +113,6 @@ TEST_F(ProjectLoaderTest, LinesReadOverOrTakenApart) {
     EXPECT_EQ(fields->value(Option5), 1);
     EXPECT_FALSE(fields->enabled(updateIgnoreLicense));
     EXPECT_TRUE(fields->enabled(updateSilent) && fields->enabled(updateRunApp));
-
-    for (const auto& [line, check] : {std::pair{".exe", 0}, {".EXE", 1}, {"demo.exe", 1}}) {
-        fields->setValue(Check23, 1);
-        writeSettings({{13, line}});
-        load();
-        EXPECT_EQ(fields->value(Check23), check) << line;
-    }
 }
 
 TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
@@ -140,10 +133,7 @@ TEST_F(ProjectLoaderTest, ListsAreClearedOnlyWhereTheirFileSaysSo) {
     EXPECT_EQ(fields->listItems(files), (Items{{"a.exe"}}));
     EXPECT_EQ(fields->listItems(dependencies), (Items{{"x.ocx", true}, {"y.dll", false}}));
 
-    box.writeFile(rel("fonts.cfg"), "<>\r\n");
-    fields->addListItems(fonts, {"kept.ttf"});
     load();
-    EXPECT_EQ(fields->listItems(fonts), (Items{{"kept.ttf"}}));
     EXPECT_EQ(fields->listItems(files), (Items{{"a.exe"}})) << "a second load lists each file once";
 }
 
