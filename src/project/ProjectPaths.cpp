@@ -23,10 +23,6 @@ std::string backgroundsFolder(std::string_view workspaceFolder) {
     return inFolder(workspaceFolder, "backgrounds");
 }
 
-std::string copyFilesBatch(std::string_view workspaceFolder) {
-    return inFolder(workspaceFolder, "copyfiles.bat");
-}
-
 std::string deleteProjectBatch(std::string_view workspaceFolder) {
     return inFolder(workspaceFolder, "deleteproject.bat");
 }

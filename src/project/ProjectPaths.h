@@ -60,7 +60,6 @@ std::string inFolder(std::string_view folder, std::string_view name);
 // Entries of the workspace.
 std::string myInstallersFolder(std::string_view workspaceFolder);
 std::string backgroundsFolder(std::string_view workspaceFolder);
-std::string copyFilesBatch(std::string_view workspaceFolder);
 std::string deleteProjectBatch(std::string_view workspaceFolder);
 
 // workspaceFolder + "\myinstallers\" + appName.
