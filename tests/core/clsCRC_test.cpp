@@ -43,6 +43,9 @@ TEST_F(CrcTest, CheckValuesOfBothAlgorithms) {
     EXPECT_EQ(crc.CalculateBytes({}), 0);
     crc.setAlgorithm(1);
     EXPECT_EQ(crc.CalculateBytes({}), 0);
+    // A byte above 127 must not be sign-extended on its way into the register.
+    EXPECT_EQ(static_cast<std::uint32_t>(crc.CalculateString("caf\xE9")),
+              zlibCrc(bytes("caf\xE9").data(), 4));
 }
 
 TEST_F(CrcTest, TheLopsidedPropertiesAndTheSharedClear) {
@@ -78,12 +81,6 @@ TEST_F(CrcTest, RunsOfBytesAddUpToTheWhole) {
         EXPECT_EQ(crc.AddBytes({data.data() + 333, data.size() - 333}), whole) << algorithm;
         EXPECT_EQ(crc.AddBytes({}), whole) << "an empty run changes nothing";
     }
-}
-
-TEST_F(CrcTest, StringsHashTheirAnsiBytes) {
-    EXPECT_EQ(crc.CalculateString("caf\xE9"), crc.CalculateBytes(bytes("caf\xE9")));
-    EXPECT_EQ(static_cast<std::uint32_t>(crc.CalculateString("caf\xE9")),
-              zlibCrc(bytes("caf\xE9").data(), 4));
 }
 
 TEST_F(CrcTest, HexFormHasNoLeadingZerosAndEightDigitsWhenNegative) {
@@ -153,12 +150,6 @@ TEST(Crc32Kernel, AllPathsAgreeWithZlib) {
         reg = update(reg, data.data() + 1777, data.size() - 1777);
         EXPECT_EQ(~reg, zlibCrc(data.data(), data.size())) << name;
     }
-}
-
-TEST(Crc32Kernel, TheTableIsTheStandardOne) {
-    EXPECT_EQ(crc32::table()[0], 0u);
-    EXPECT_EQ(crc32::table()[1], 0x77073096u);
-    EXPECT_EQ(crc32::table()[255], 0x2D02EF8Du);
 }
 
 }  // namespace
