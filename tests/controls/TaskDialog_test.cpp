@@ -35,7 +35,8 @@ TEST(cTaskDialog, DialogExSendsTheModelAndGivesBackTheBoxAsItStood) {
 
 TEST(OpenFileDialog, KeepsTheBareNameOfTheAnswerAndPassesTheRequestAsGiven) {
     testing::ScriptedDialogs dialogs;
-    dialogs.answerNextOpenFile("C:\\p\\files\\setup.exe  ");
+    // Trailing blanks go, and so does whatever follows a NUL in the dialog's buffer.
+    dialogs.answerNextOpenFile(std::string("C:\\p\\files\\setup.exe  \0x", 24));
     const OpenFileResult result =
         openFileDialog(dialogs, "Executable files|*.exe;*.bat", "*.exe,*.bat", "C:\\p\\files", "Pick");
     EXPECT_EQ(result.path, "C:\\p\\files\\setup.exe");

@@ -206,7 +206,9 @@ TEST_F(HostRegistry, ASmallBufferAsksForMoreAndAStringEndsWithItsNul) {
     std::uint32_t type = kRegNone;
     std::string data(3, ' ');
     ASSERT_EQ(host.regQueryValue(key, "path", type, data), kErrorMoreData);
-    EXPECT_GE(data.size(), 8u) << "the needed size comes back";
+    EXPECT_EQ(data.size(), 9u) << "the needed size, its NUL counted";
+    std::string empty;
+    EXPECT_EQ(host.regQueryValue(key, "path", type, empty), kErrorMoreData);
     data.assign(255, ' ');
     ASSERT_EQ(host.regQueryValue(key, "path", type, data), kErrorSuccess);
     EXPECT_EQ(type, kRegSz);
