@@ -32,7 +32,7 @@ protected:
     QtDialogs dialogs{box.host()};
 };
 
-TEST_F(QtDialogsTest, MessageBoxGivesTheCodeOfTheButtonPressed) {
+TEST_F(QtDialogsTest, BoxesGiveTheCodeOfTheButtonPressedAndATaskDialogWithoutTitleTakesTheProgramsName) {
     QString title;
     whenOpen<QMessageBox>([&](QMessageBox* shown) {
         title = shown->windowTitle();
@@ -41,10 +41,8 @@ TEST_F(QtDialogsTest, MessageBoxGivesTheCodeOfTheButtonPressed) {
     EXPECT_EQ(dialogs.messageBox({"Save?", MessageButtons::YesNoCancel, MessageIcon::Question, "Orvanta"}),
               DialogAnswer::No);
     EXPECT_EQ(title, "Orvanta");
-}
 
-TEST_F(QtDialogsTest, TaskDialogWithoutTitleTakesTheProgramsName) {
-    QString title;
+    title.clear();
     QString informative;
     whenOpen<QMessageBox>([&](QMessageBox* shown) {
         title = shown->windowTitle();

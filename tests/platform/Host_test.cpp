@@ -43,7 +43,7 @@ protected:
     Host& host = box.host();
 };
 
-TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCase) {
+TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCaseAndFoldersComeOnlyWhenAsked) {
     using Names = std::vector<std::string>;
     EXPECT_EQ(namesOf(host.listDirectory(at("*.txt"), false)), (Names{"B.TXT", "a.txt"}));
     EXPECT_EQ(namesOf(host.listDirectory(at("?.TxT"), false)), (Names{"B.TXT", "a.txt"}));
@@ -51,10 +51,6 @@ TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCase) {
         << "\"*.*\" also matches a name without a dot";
     EXPECT_TRUE(host.listDirectory(at("s*\\c.txt"), true).empty()) << "no wildcards in folders";
     EXPECT_TRUE(host.listDirectory(at("missing\\*"), true).empty());
-}
-
-TEST_F(HostFiles, FoldersAndTheirDotEntriesComeOnlyWhenAsked) {
-    using Names = std::vector<std::string>;
     EXPECT_EQ(namesOf(host.listDirectory(at("*"), true)),
               (Names{".", "..", "B.TXT", "a.txt", "readme", "sub"}));
     EXPECT_EQ(namesOf(host.listDirectory(at("*"), false)), (Names{"B.TXT", "a.txt", "readme"}));
@@ -115,13 +111,16 @@ TEST_F(HostFiles, ReadOnlyFilesRefuseDeleteAndReplace) {
     EXPECT_FALSE(host.writeFileAtomic(at("a.txt"), "changed"));
     EXPECT_FALSE(host.copyFile(at("B.TXT"), at("a.txt")));
     EXPECT_EQ(readAll(host, at("a.txt")), "alpha");
+    EXPECT_EQ(namesOf(host.listDirectory(at("*"), false)),
+              (std::vector<std::string>{"B.TXT", "a.txt", "readme"}))
+        << "a refused atomic write leaves nothing beside";
     ASSERT_TRUE(host.setFileAttributes(at("a.txt"), kAttributeNormal));
     EXPECT_EQ(*host.fileAttributes(at("a.txt")) & kAttributeReadOnly, 0u);
     EXPECT_TRUE(host.deleteFile(at("a.txt")));
     EXPECT_FALSE(host.fileAttributes(at("a.txt")).has_value());
 }
 
-TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTarget) {
+TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTargetSaveOneOfOnlyAnotherCase) {
     EXPECT_TRUE(host.copyFile(at("a.txt"), at("B.TXT")));
     EXPECT_EQ(readAll(host, at("B.TXT")), "alpha");
     EXPECT_FALSE(host.copyFile(at("missing"), at("B.TXT")));
@@ -133,9 +132,6 @@ TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTarget) {
     EXPECT_TRUE(host.renameFile(at("sub"), at("renamed"))) << "folders move too";
     EXPECT_EQ(readAll(host, at("renamed\\c.txt")), "charlie");
     EXPECT_FALSE(host.renameFile(at("missing"), at("other")));
-}
-
-TEST_F(HostFiles, RenameMayChangeOnlyTheCaseOfAName) {
     ASSERT_TRUE(host.renameFile(at("a.txt"), at("A.TXT")));
     EXPECT_EQ(namesOf(host.listDirectory(at("a.txt"), false)), (std::vector<std::string>{"A.TXT"}));
 }
