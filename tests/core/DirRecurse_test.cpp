@@ -34,14 +34,12 @@ protected:
     testing::Sandbox box;
 };
 
-TEST_F(WalkTest, FindFilesTakesEachPatternInTheFolderOnly) {
+TEST_F(WalkTest, FindFilesTakesEachPatternAndTheDeepWalksReachEveryLevel) {
     std::vector<std::string> found;
     findFiles(box.host(), found, root(), "*.txt;*.cfg");
     std::sort(found.begin(), found.end());
     EXPECT_EQ(found, (std::vector<std::string>{root() + "\\a.txt", root() + "\\b.cfg"}));
-}
 
-TEST_F(WalkTest, FindFilesDeepAndListFoldersDeepReachEveryLevel) {
     std::vector<std::string> files;
     findFilesDeep(box.host(), files, root() + "\\", "*.cfg");
     std::sort(files.begin(), files.end());

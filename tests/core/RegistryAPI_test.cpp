@@ -21,16 +21,14 @@ protected:
     RegistryAPI registry{box.host()};
 };
 
-TEST_F(RegistryAPITest, ShortLowerCaseAndLongRootNamesAddressTheSameKey) {
+TEST_F(RegistryAPITest, RootNamesAreShortOrLongInAnyCaseAndParsingSplitsTheSubkey) {
     registry.writeSettingNumber("hkcu\\Software\\OrvantaRegistryTest", "lastproject", 7);
     EXPECT_EQ(
         registry.readSettingNumber("HKEY_CURRENT_USER\\Software\\OrvantaRegistryTest", "lastproject", -1), 7);
     EXPECT_EQ(
         registry.readSettingNumber("hkey_current_user\\Software\\OrvantaRegistryTest", "lastproject", -1), 7);
     EXPECT_TRUE(registry.registryKeyExists("HKEY_CURRENT_USER\\Software\\OrvantaRegistryTest"));
-}
 
-TEST_F(RegistryAPITest, ParsePathReplacesLongRootsAndSplitsTheSubkey) {
     std::string path = "hkey_local_machine\\Software\\X";
     std::string subKey;
     EXPECT_EQ(registry.parseRegistryPath(path, subKey), kHkeyLocalMachine);
