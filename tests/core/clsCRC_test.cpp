@@ -90,7 +90,7 @@ TEST_F(CrcTest, HexFormHasNoLeadingZerosAndEightDigitsWhenNegative) {
     EXPECT_EQ(crcHex(-1), "FFFFFFFF");
 }
 
-TEST_F(CrcTest, FileOfLengthZeroIsEmptyAndMissingFileThrows) {
+TEST_F(CrcTest, AFileIsHashedWholeButAnEmptyOneHasNoValueAndAMissingOneThrows) {
     box.writeFile("empty.cfg", "");
     crc.AddString("running");
     const std::int32_t before = crc.Value();
@@ -103,9 +103,7 @@ TEST_F(CrcTest, FileOfLengthZeroIsEmptyAndMissingFileThrows) {
         EXPECT_EQ(error.number(), kErrorNumberFileNotFound);
     }
     EXPECT_EQ(crc.Value(), before) << "a failed file leaves the register alone";
-}
 
-TEST_F(CrcTest, FileIsHashedWholeWithTheSelectedAlgorithm) {
     box.writeFile("check.cfg", "123456789");
     crc.AddString("running");
     EXPECT_EQ(crc.CalculateFile(box.windowsPath("check.cfg")), static_cast<std::int32_t>(0xCBF43926u));

@@ -62,7 +62,7 @@ TEST_F(Processes, ProgramsRunWithTheirWindowsPathArgumentsMapped) {
     EXPECT_FALSE(host.startProcess("", kWindowHidden).has_value());
 }
 
-TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOut) {
+TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOutAndTheListNamesTheRunningTestProgram) {
     Host& host = box.host();
     const auto id = host.startProcess("sh -c \"sleep 5\"", kWindowHidden);
     ASSERT_TRUE(id.has_value()) << "a bare name is searched on PATH";
@@ -76,11 +76,8 @@ TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOut) {
     EXPECT_EQ(host.waitForProcess(process, 0), WaitResult::Signalled) << "the end is remembered once reaped";
     host.closeProcess(process);
     EXPECT_EQ(host.waitForProcess(0, 0), WaitResult::Failed);
-}
 
-TEST(ProcessList, NamesTheRunningTestProgram) {
-    testing::Sandbox box;
-    const auto names = box.host().processNames();
+    const auto names = host.processNames();
     EXPECT_NE(std::find(names.begin(), names.end(), "platform_tests"), names.end());
 }
 
