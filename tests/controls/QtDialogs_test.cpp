@@ -56,7 +56,7 @@ TEST_F(QtDialogsTest, BoxesGiveTheCodeOfTheButtonPressedAndATaskDialogWithoutTit
     EXPECT_EQ(informative, "Content\nline two");
 }
 
-TEST_F(QtDialogsTest, TaskDialogExGivesTheButtonsIdAndTheVerificationBoxAsItStood) {
+TEST_F(QtDialogsTest, TaskDialogExAndInputBoxGiveWhatTheUserChose) {
     whenOpen<QMessageBox>([](QMessageBox* shown) {
         shown->checkBox()->setChecked(true);
         for (QAbstractButton* button : shown->buttons())
@@ -69,9 +69,7 @@ TEST_F(QtDialogsTest, TaskDialogExGivesTheButtonsIdAndTheVerificationBoxAsItStoo
     const TaskDialogExAnswer answer = dialogs.taskDialogEx(request);
     EXPECT_EQ(answer.button, 101);
     EXPECT_TRUE(answer.verificationChecked);
-}
 
-TEST_F(QtDialogsTest, InputBoxGivesTheTextOrNothingWhenCancelled) {
     whenOpen<QInputDialog>([](QInputDialog* shown) {
         shown->setTextValue("Caf\u00e9");
         shown->accept();

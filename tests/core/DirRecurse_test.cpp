@@ -53,16 +53,14 @@ TEST_F(WalkTest, FindFilesTakesEachPatternAndTheDeepWalksReachEveryLevel) {
         << "a name of dots alone is passed over";
 }
 
-TEST_F(WalkTest, FolderSizeWithAndWithoutSubfolders) {
+TEST_F(WalkTest, FolderSizeAndTheOneTreeWalkAgreeWithTheThreeWalksAndTheAbortFlagStopsAWalk) {
     int pumps = 0;
     box.host().setMessagePump([&] { ++pumps; });
     EXPECT_EQ(folderSize(box.host(), root(), false), 9.0);
     EXPECT_EQ(folderSize(box.host(), root(), true), 21.0);
     EXPECT_GE(pumps, 4) << "messages run at each level";
     EXPECT_EQ(folderSize(box.host(), box.windowsPath("missing"), true), 0.0);
-}
 
-TEST_F(WalkTest, OneTreeWalkGivesWhatTheThreeWalksGiveInTheirOrder) {
     box.writeFile("f\\sub\\README", "no extension");
     for (const std::string& start : {root(), root() + "\\"}) {
         std::vector<std::string> files, folders;
@@ -73,9 +71,7 @@ TEST_F(WalkTest, OneTreeWalkGivesWhatTheThreeWalksGiveInTheirOrder) {
         EXPECT_EQ(tree.folders, folders);
         EXPECT_EQ(tree.size, folderSize(box.host(), start, true));
     }
-}
 
-TEST_F(WalkTest, TheAbortFlagStopsAWalk) {
     vars::abortWalks = true;
     std::vector<std::string> files;
     findFilesDeep(box.host(), files, root(), "*.txt");

@@ -64,7 +64,7 @@ TEST_F(RegistryAPITest, ReadSettingNumberFallsBackOnlyWhenTheQueryFails) {
     EXPECT_EQ(registry.readSettingNumber(key, "negative", 0), -2);
 }
 
-TEST_F(RegistryAPITest, StringsAreCutAtTheBufferAndTrimmed) {
+TEST_F(RegistryAPITest, StringsAreCutAndTrimmedAndWritesToAMissingKeyVanishUnlessKeysAreCreated) {
     registry.writeRegistryString(kKey, "long", std::string(300, 'x'));
     EXPECT_EQ(registry.readRegistryString(kKey, "long", ""), std::string(255, 'x'));
     registry.writeRegistryString(kKey, "blanks", "  padded  ");
@@ -75,9 +75,7 @@ TEST_F(RegistryAPITest, StringsAreCutAtTheBufferAndTrimmed) {
     EXPECT_EQ(registry.readRegistryString(kKey, "absent", "fallback"), "fallback");
     EXPECT_TRUE(registry.registryValueExists(kKey, "blanks"));
     EXPECT_FALSE(registry.registryValueExists(kKey, "absent"));
-}
 
-TEST_F(RegistryAPITest, WritesToAMissingKeyVanishUnlessKeysAreCreated) {
     const std::string missing = std::string(kKey) + "\\Settings";
     registry.writeSettingNumber(missing, "compressor", 2);
     EXPECT_FALSE(registry.registryKeyExists(missing));

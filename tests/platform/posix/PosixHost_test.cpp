@@ -9,7 +9,7 @@
 namespace orvanta {
 namespace {
 
-TEST(PosixPlaces, SystemFoldersLiveOnTheSimulatedDriveAndAreMadeOnFirstUse) {
+TEST(PosixPlaces, SystemFoldersAndTheCommandLineSpeakOfTheSimulatedDriveWhoseSpaceIsTheFileSystems) {
     testing::Sandbox box;
     Host& host = box.host();
     EXPECT_EQ(host.specialFolder(38), "C:\\Program Files");
@@ -22,10 +22,7 @@ TEST(PosixPlaces, SystemFoldersLiveOnTheSimulatedDriveAndAreMadeOnFirstUse) {
     box.config().commandLineSet = false;
     EXPECT_EQ(box.restartHost().commandLine().find('/'), std::string::npos)
         << "host paths arrive in Windows form";
-}
 
-TEST(PosixPlaces, FreeSpaceFieldsMultiplyToTheFileSystemsSize) {
-    testing::Sandbox box;
     const auto space = box.host().diskSpace("C:\\");
     struct statvfs info {};
     ASSERT_EQ(::statvfs(box.hostRoot().c_str(), &info), 0);

@@ -36,7 +36,7 @@ protected:
     testing::Sandbox box;
 };
 
-TEST_F(Processes, BatchFilesAndBuiltinCommandsRunUnderTheCommandProcessor) {
+TEST_F(Processes, BatchFilesRunUnderTheCommandProcessorAndProgramsWithTheirArgumentsMapped) {
     Host& host = box.host();
     box.writeFile("job\\Packager.bat", "echo hi\r\n");
     const std::string dataFolder = (box.hostRoot() / "data").string();
@@ -47,10 +47,7 @@ TEST_F(Processes, BatchFilesAndBuiltinCommandsRunUnderTheCommandProcessor) {
     EXPECT_EQ(box.readFile("args"), "/c\ndel /q \"C:\\a b.txt\"\n" + dataFolder + "\n")
         << "the line is passed whole";
     EXPECT_FALSE(host.startProcess("\"" + box.windowsPath("missing.bat") + "\"", kWindowHidden).has_value());
-}
 
-TEST_F(Processes, ProgramsRunWithTheirWindowsPathArgumentsMapped) {
-    Host& host = box.host();
     testing::writeFakeProgram(box.hostRoot() / "bin" / "7z",
                               "printf '%s\\n' \"$@\" > \"" + (box.hostRoot() / "out").string() + "\"");
     const std::string line =
