@@ -76,17 +76,7 @@ TEST_F(MainTest, FixesTheProcessWideValuesAndCreatesTheSettingsKeysOnce) {
     EXPECT_EQ(registry.readSettingNumber("HKCU\\Software\\Orvanta\\Settings", "saveAlways", 0), 1);
 }
 
-TEST_F(MainTest, ThePrivateSevenZipWinsOverEveryRegistration) {
-    box.writeFile("app\\7z\\7z.exe", "private");
-    registerArchiver("WinRAR.exe", "rar");
-    registerArchiver("7zFM.exe", "7z");
-    runMain();
-    EXPECT_EQ(vars::sevenZipFolder, box.applicationFolder() + "\\7z\\");
-    EXPECT_EQ(vars::rarFolder, "");
-    EXPECT_EQ(vars::compressorChoice, "7zip");
-}
-
-TEST_F(MainTest, WinRarWithoutSevenZipStillChoosesSevenZipAndEachRegistrationGivesItsFolder) {
+TEST_F(MainTest, EachRegistrationGivesItsFolderAndThePrivateSevenZipWinsOverAll) {
     registerArchiver("WinRAR.exe", "rar");
     runMain();
     EXPECT_EQ(vars::rarFolder, registeredFolder("WinRAR.exe"));
@@ -100,6 +90,13 @@ TEST_F(MainTest, WinRarWithoutSevenZipStillChoosesSevenZipAndEachRegistrationGiv
     runMain();
     EXPECT_EQ(vars::rarFolder, registeredFolder("WinRAR.exe"));
     EXPECT_EQ(vars::sevenZipFolder, registeredFolder("7zFM.exe"));
+
+    box.writeFile("app\\7z\\7z.exe", "private");
+    vars::reset();  // a real start begins with none of these set
+    runMain();
+    EXPECT_EQ(vars::sevenZipFolder, box.applicationFolder() + "\\7z\\") << "the private 7-Zip wins over both";
+    EXPECT_EQ(vars::rarFolder, "");
+    EXPECT_EQ(vars::compressorChoice, "7zip");
 }
 
 // Windows 7 warns with a task dialog and XP, which has none, with a message box; both go on.
@@ -126,7 +123,7 @@ TEST_F(MainTest, NoArchiverWarnsInTheFormTheSystemHas) {
     EXPECT_EQ(dialogs.taskDialogs.size(), 1u);
 }
 
-TEST_F(MainTest, AQuotedCommandLineFailsAtTheOpen) {
+TEST_F(MainTest, AQuotedCommandLineFailsAtTheOpenAndAMarkerNamingAnotherProjectHandsOverItsOwnPath) {
     box.writeFile("Demo.ovproj", "Demo\r\n");
     box.config().commandLine = "\"" + box.windowsPath("Demo.ovproj") + "\"";
     box.restartHost();
@@ -137,9 +134,7 @@ TEST_F(MainTest, AQuotedCommandLineFailsAtTheOpen) {
         EXPECT_EQ(error.number(), 53);
     }
     EXPECT_TRUE(loadedFolders.empty());
-}
 
-TEST_F(MainTest, AMarkerNamingAnotherProjectHandsOverItsOwnPath) {
     box.writeFile("Demo.ovproj", "Other\r\n");
     box.config().commandLine = box.windowsPath("Demo.ovproj");
     box.restartHost();
