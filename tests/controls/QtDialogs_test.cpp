@@ -82,7 +82,7 @@ TEST_F(QtDialogsTest, TaskDialogExAndInputBoxGiveWhatTheUserChose) {
     EXPECT_EQ(dialogs.inputBox({"Name", "Create Folder", ""}), "");
 }
 
-TEST_F(QtDialogsTest, OpenFileSpeaksWindowsPathsAndShowsTheFilterAsQtWantsIt) {
+TEST_F(QtDialogsTest, OpenFileAndTheFolderBrowserSpeakWindowsPaths) {
     box.writeFile("files\\setup.exe", "MZ");
     QStringList filters;
     whenOpen<QFileDialog>([&](QFileDialog* shown) {
@@ -94,9 +94,7 @@ TEST_F(QtDialogsTest, OpenFileSpeaksWindowsPathsAndShowsTheFilterAsQtWantsIt) {
         {"Executable files|*.exe;*.bat|All files|*.*", "*.exe,*.bat", box.windowsPath("files"), "Pick"});
     EXPECT_EQ(chosen, box.windowsPath("files\\setup.exe"));
     EXPECT_EQ(filters, QStringList({"Executable files (*.exe *.bat)", "All files (*.*)"}));
-}
 
-TEST_F(QtDialogsTest, FolderBrowserAnswersWithTheStartFolderWhenNothingElseIsChosen) {
     box.makeFolder("start");
     whenOpen<frmButton>([](frmButton* shown) { shown->accept(); });
     const FolderBrowserAnswer answer =

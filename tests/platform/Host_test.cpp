@@ -74,7 +74,7 @@ TEST_F(HostFiles, TheListingForWalksGivesTheSameEntriesWithTheFolderBitAlone) {
     host.setFileAttributes(at("a.txt"), kAttributeNormal);
 }
 
-TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryUnderItsOwnSpelling) {
+TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryAndFilesButNotFoldersHaveLengthAndContents) {
     const auto file = host.listDirectory(at("b.txt"), false);
     ASSERT_EQ(file.size(), 1u);
     EXPECT_EQ(file[0].name, "B.TXT");
@@ -83,9 +83,7 @@ TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryUnderItsOwnSpelling) {
     ASSERT_EQ(host.listDirectory(at("SUB"), true).size(), 1u);
     EXPECT_EQ(host.listDirectory(at("SUB"), true)[0].name, "sub");
     EXPECT_TRUE(host.listDirectory(at("nothing.txt"), true).empty());
-}
 
-TEST_F(HostFiles, LengthAndContentsOfFilesButNotOfFolders) {
     EXPECT_EQ(host.fileLength(at("sub\\c.txt")), 7u);
     EXPECT_EQ(readAll(host, at("SUB\\C.TXT")), "charlie");
     EXPECT_FALSE(host.fileLength(at("sub")).has_value());
