@@ -32,7 +32,7 @@ protected:
     QtDialogs dialogs{box.host()};
 };
 
-TEST_F(QtDialogsTest, MessageBoxGivesTheCodeOfTheButtonPressed) {
+TEST_F(QtDialogsTest, BoxesGiveTheCodeOfTheButtonPressedAndATaskDialogWithoutTitleTakesTheProgramsName) {
     QString title;
     whenOpen<QMessageBox>([&](QMessageBox* shown) {
         title = shown->windowTitle();
@@ -41,10 +41,8 @@ TEST_F(QtDialogsTest, MessageBoxGivesTheCodeOfTheButtonPressed) {
     EXPECT_EQ(dialogs.messageBox({"Save?", MessageButtons::YesNoCancel, MessageIcon::Question, "Orvanta"}),
               DialogAnswer::No);
     EXPECT_EQ(title, "Orvanta");
-}
 
-TEST_F(QtDialogsTest, TaskDialogWithoutTitleTakesTheProgramsName) {
-    QString title;
+    title.clear();
     QString informative;
     whenOpen<QMessageBox>([&](QMessageBox* shown) {
         title = shown->windowTitle();
@@ -58,7 +56,7 @@ TEST_F(QtDialogsTest, TaskDialogWithoutTitleTakesTheProgramsName) {
     EXPECT_EQ(informative, "Content\nline two");
 }
 
-TEST_F(QtDialogsTest, TaskDialogExGivesTheButtonsIdAndTheVerificationBoxAsItStood) {
+TEST_F(QtDialogsTest, TaskDialogExAndInputBoxGiveWhatTheUserChose) {
     whenOpen<QMessageBox>([](QMessageBox* shown) {
         shown->checkBox()->setChecked(true);
         for (QAbstractButton* button : shown->buttons())
@@ -71,9 +69,7 @@ TEST_F(QtDialogsTest, TaskDialogExGivesTheButtonsIdAndTheVerificationBoxAsItStoo
     const TaskDialogExAnswer answer = dialogs.taskDialogEx(request);
     EXPECT_EQ(answer.button, 101);
     EXPECT_TRUE(answer.verificationChecked);
-}
 
-TEST_F(QtDialogsTest, InputBoxGivesTheTextOrNothingWhenCancelled) {
     whenOpen<QInputDialog>([](QInputDialog* shown) {
         shown->setTextValue("Caf\u00e9");
         shown->accept();
@@ -86,7 +82,7 @@ TEST_F(QtDialogsTest, InputBoxGivesTheTextOrNothingWhenCancelled) {
     EXPECT_EQ(dialogs.inputBox({"Name", "Create Folder", ""}), "");
 }
 
-TEST_F(QtDialogsTest, OpenFileSpeaksWindowsPathsAndShowsTheFilterAsQtWantsIt) {
+TEST_F(QtDialogsTest, OpenFileAndTheFolderBrowserSpeakWindowsPaths) {
     box.writeFile("files\\setup.exe", "MZ");
     QStringList filters;
     whenOpen<QFileDialog>([&](QFileDialog* shown) {
@@ -98,9 +94,7 @@ TEST_F(QtDialogsTest, OpenFileSpeaksWindowsPathsAndShowsTheFilterAsQtWantsIt) {
         {"Executable files|*.exe;*.bat|All files|*.*", "*.exe,*.bat", box.windowsPath("files"), "Pick"});
     EXPECT_EQ(chosen, box.windowsPath("files\\setup.exe"));
     EXPECT_EQ(filters, QStringList({"Executable files (*.exe *.bat)", "All files (*.*)"}));
-}
 
-TEST_F(QtDialogsTest, FolderBrowserAnswersWithTheStartFolderWhenNothingElseIsChosen) {
     box.makeFolder("start");
     whenOpen<frmButton>([](frmButton* shown) { shown->accept(); });
     const FolderBrowserAnswer answer =

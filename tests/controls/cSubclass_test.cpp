@@ -119,7 +119,7 @@ TEST_F(Subclassing, EveryRefusalShowsItsText) {
     EXPECT_EQ(shown(), expected);
 }
 
-TEST_F(Subclassing, ACallbackMayEndItsOwnSubclassing) {
+TEST_F(Subclassing, ACallbackMayEndItsOwnSubclassingAndADestroyedWindowLeavesNothingBehind) {
     subclass.sc_Subclass(&window, 0, [&](bool, bool&, bool&, QObject* hWnd, QEvent*, qintptr) {
         calls.push_back({true, 0});
         subclass.sc_UnSubclass(hWnd);
@@ -130,9 +130,7 @@ TEST_F(Subclassing, ACallbackMayEndItsOwnSubclassing) {
     EXPECT_EQ(calls.size(), 1u) << "neither the after call of the same event nor later events come";
     EXPECT_FALSE(subclass.isSubclassed(&window));
     EXPECT_TRUE(dialogs.messageBoxes.empty());
-}
 
-TEST_F(Subclassing, AWindowDestroyedWithoutUnsubclassingLeavesNothingBehind) {
     auto* doomed = new QObject;
     subclass.sc_Subclass(doomed, 0, recorder());
     delete doomed;

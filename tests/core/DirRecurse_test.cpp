@@ -34,14 +34,12 @@ protected:
     testing::Sandbox box;
 };
 
-TEST_F(WalkTest, FindFilesTakesEachPatternInTheFolderOnly) {
+TEST_F(WalkTest, FindFilesTakesEachPatternAndTheDeepWalksReachEveryLevel) {
     std::vector<std::string> found;
     findFiles(box.host(), found, root(), "*.txt;*.cfg");
     std::sort(found.begin(), found.end());
     EXPECT_EQ(found, (std::vector<std::string>{root() + "\\a.txt", root() + "\\b.cfg"}));
-}
 
-TEST_F(WalkTest, FindFilesDeepAndListFoldersDeepReachEveryLevel) {
     std::vector<std::string> files;
     findFilesDeep(box.host(), files, root() + "\\", "*.cfg");
     std::sort(files.begin(), files.end());
@@ -55,16 +53,14 @@ TEST_F(WalkTest, FindFilesDeepAndListFoldersDeepReachEveryLevel) {
         << "a name of dots alone is passed over";
 }
 
-TEST_F(WalkTest, FolderSizeWithAndWithoutSubfolders) {
+TEST_F(WalkTest, FolderSizeAndTheOneTreeWalkAgreeWithTheThreeWalksAndTheAbortFlagStopsAWalk) {
     int pumps = 0;
     box.host().setMessagePump([&] { ++pumps; });
     EXPECT_EQ(folderSize(box.host(), root(), false), 9.0);
     EXPECT_EQ(folderSize(box.host(), root(), true), 21.0);
     EXPECT_GE(pumps, 4) << "messages run at each level";
     EXPECT_EQ(folderSize(box.host(), box.windowsPath("missing"), true), 0.0);
-}
 
-TEST_F(WalkTest, OneTreeWalkGivesWhatTheThreeWalksGiveInTheirOrder) {
     box.writeFile("f\\sub\\README", "no extension");
     for (const std::string& start : {root(), root() + "\\"}) {
         std::vector<std::string> files, folders;
@@ -75,9 +71,7 @@ TEST_F(WalkTest, OneTreeWalkGivesWhatTheThreeWalksGiveInTheirOrder) {
         EXPECT_EQ(tree.folders, folders);
         EXPECT_EQ(tree.size, folderSize(box.host(), start, true));
     }
-}
 
-TEST_F(WalkTest, TheAbortFlagStopsAWalk) {
     vars::abortWalks = true;
     std::vector<std::string> files;
     findFilesDeep(box.host(), files, root(), "*.txt");

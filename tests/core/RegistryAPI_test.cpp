@@ -21,16 +21,14 @@ protected:
     RegistryAPI registry{box.host()};
 };
 
-TEST_F(RegistryAPITest, ShortLowerCaseAndLongRootNamesAddressTheSameKey) {
+TEST_F(RegistryAPITest, RootNamesAreShortOrLongInAnyCaseAndParsingSplitsTheSubkey) {
     registry.writeSettingNumber("hkcu\\Software\\OrvantaRegistryTest", "lastproject", 7);
     EXPECT_EQ(
         registry.readSettingNumber("HKEY_CURRENT_USER\\Software\\OrvantaRegistryTest", "lastproject", -1), 7);
     EXPECT_EQ(
         registry.readSettingNumber("hkey_current_user\\Software\\OrvantaRegistryTest", "lastproject", -1), 7);
     EXPECT_TRUE(registry.registryKeyExists("HKEY_CURRENT_USER\\Software\\OrvantaRegistryTest"));
-}
 
-TEST_F(RegistryAPITest, ParsePathReplacesLongRootsAndSplitsTheSubkey) {
     std::string path = "hkey_local_machine\\Software\\X";
     std::string subKey;
     EXPECT_EQ(registry.parseRegistryPath(path, subKey), kHkeyLocalMachine);
@@ -66,7 +64,7 @@ TEST_F(RegistryAPITest, ReadSettingNumberFallsBackOnlyWhenTheQueryFails) {
     EXPECT_EQ(registry.readSettingNumber(key, "negative", 0), -2);
 }
 
-TEST_F(RegistryAPITest, StringsAreCutAtTheBufferAndTrimmed) {
+TEST_F(RegistryAPITest, StringsAreCutAndTrimmedAndWritesToAMissingKeyVanishUnlessKeysAreCreated) {
     registry.writeRegistryString(kKey, "long", std::string(300, 'x'));
     EXPECT_EQ(registry.readRegistryString(kKey, "long", ""), std::string(255, 'x'));
     registry.writeRegistryString(kKey, "blanks", "  padded  ");
@@ -77,9 +75,7 @@ TEST_F(RegistryAPITest, StringsAreCutAtTheBufferAndTrimmed) {
     EXPECT_EQ(registry.readRegistryString(kKey, "absent", "fallback"), "fallback");
     EXPECT_TRUE(registry.registryValueExists(kKey, "blanks"));
     EXPECT_FALSE(registry.registryValueExists(kKey, "absent"));
-}
 
-TEST_F(RegistryAPITest, WritesToAMissingKeyVanishUnlessKeysAreCreated) {
     const std::string missing = std::string(kKey) + "\\Settings";
     registry.writeSettingNumber(missing, "compressor", 2);
     EXPECT_FALSE(registry.registryKeyExists(missing));

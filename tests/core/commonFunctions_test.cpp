@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/CommondialogBox.h"
 #include "core/SpecialFolderAPI.h"
 #include "support/FailingHost.h"
 #include "support/Sandbox.h"
@@ -99,16 +98,6 @@ TEST(SpecialFolders, EndWithABackslash) {
         EXPECT_EQ(folder[1], ':');
     }
     EXPECT_EQ(specialFolder(box.host(), 9999), "");
-}
-
-TEST(OpenFileDialogStrings, FilterAndBareName) {
-    EXPECT_EQ(toDialogFilter("Executable files|*.exe;*.bat"),
-              std::string("Executable files\0*.exe;*.bat\0\0", 30));
-    const std::string buffer = std::string("C:\\p\\files\\app.exe") + '\0' + std::string(20, ' ');
-    const OpenFileResult result = finishOpenFileResult(buffer);
-    EXPECT_EQ(result.path, "C:\\p\\files\\app.exe");
-    EXPECT_EQ(result.fileName, "app.exe");
-    EXPECT_EQ(finishOpenFileResult(std::string(1, '\0') + "   ").path, "");
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ protected:
     Host& host = box.host();
 };
 
-TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCase) {
+TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCaseAndFoldersComeOnlyWhenAsked) {
     using Names = std::vector<std::string>;
     EXPECT_EQ(namesOf(host.listDirectory(at("*.txt"), false)), (Names{"B.TXT", "a.txt"}));
     EXPECT_EQ(namesOf(host.listDirectory(at("?.TxT"), false)), (Names{"B.TXT", "a.txt"}));
@@ -51,10 +51,6 @@ TEST_F(HostFiles, WildcardsMatchOnlyTheLastComponentIgnoringCase) {
         << "\"*.*\" also matches a name without a dot";
     EXPECT_TRUE(host.listDirectory(at("s*\\c.txt"), true).empty()) << "no wildcards in folders";
     EXPECT_TRUE(host.listDirectory(at("missing\\*"), true).empty());
-}
-
-TEST_F(HostFiles, FoldersAndTheirDotEntriesComeOnlyWhenAsked) {
-    using Names = std::vector<std::string>;
     EXPECT_EQ(namesOf(host.listDirectory(at("*"), true)),
               (Names{".", "..", "B.TXT", "a.txt", "readme", "sub"}));
     EXPECT_EQ(namesOf(host.listDirectory(at("*"), false)), (Names{"B.TXT", "a.txt", "readme"}));
@@ -78,7 +74,7 @@ TEST_F(HostFiles, TheListingForWalksGivesTheSameEntriesWithTheFolderBitAlone) {
     host.setFileAttributes(at("a.txt"), kAttributeNormal);
 }
 
-TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryUnderItsOwnSpelling) {
+TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryAndFilesButNotFoldersHaveLengthAndContents) {
     const auto file = host.listDirectory(at("b.txt"), false);
     ASSERT_EQ(file.size(), 1u);
     EXPECT_EQ(file[0].name, "B.TXT");
@@ -87,9 +83,7 @@ TEST_F(HostFiles, APatternWithoutWildcardsNamesOneEntryUnderItsOwnSpelling) {
     ASSERT_EQ(host.listDirectory(at("SUB"), true).size(), 1u);
     EXPECT_EQ(host.listDirectory(at("SUB"), true)[0].name, "sub");
     EXPECT_TRUE(host.listDirectory(at("nothing.txt"), true).empty());
-}
 
-TEST_F(HostFiles, LengthAndContentsOfFilesButNotOfFolders) {
     EXPECT_EQ(host.fileLength(at("sub\\c.txt")), 7u);
     EXPECT_EQ(readAll(host, at("SUB\\C.TXT")), "charlie");
     EXPECT_FALSE(host.fileLength(at("sub")).has_value());
@@ -115,13 +109,16 @@ TEST_F(HostFiles, ReadOnlyFilesRefuseDeleteAndReplace) {
     EXPECT_FALSE(host.writeFileAtomic(at("a.txt"), "changed"));
     EXPECT_FALSE(host.copyFile(at("B.TXT"), at("a.txt")));
     EXPECT_EQ(readAll(host, at("a.txt")), "alpha");
+    EXPECT_EQ(namesOf(host.listDirectory(at("*"), false)),
+              (std::vector<std::string>{"B.TXT", "a.txt", "readme"}))
+        << "a refused atomic write leaves nothing beside";
     ASSERT_TRUE(host.setFileAttributes(at("a.txt"), kAttributeNormal));
     EXPECT_EQ(*host.fileAttributes(at("a.txt")) & kAttributeReadOnly, 0u);
     EXPECT_TRUE(host.deleteFile(at("a.txt")));
     EXPECT_FALSE(host.fileAttributes(at("a.txt")).has_value());
 }
 
-TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTarget) {
+TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTargetSaveOneOfOnlyAnotherCase) {
     EXPECT_TRUE(host.copyFile(at("a.txt"), at("B.TXT")));
     EXPECT_EQ(readAll(host, at("B.TXT")), "alpha");
     EXPECT_FALSE(host.copyFile(at("missing"), at("B.TXT")));
@@ -133,9 +130,6 @@ TEST_F(HostFiles, CopyOverwritesButRenameRefusesAnExistingTarget) {
     EXPECT_TRUE(host.renameFile(at("sub"), at("renamed"))) << "folders move too";
     EXPECT_EQ(readAll(host, at("renamed\\c.txt")), "charlie");
     EXPECT_FALSE(host.renameFile(at("missing"), at("other")));
-}
-
-TEST_F(HostFiles, RenameMayChangeOnlyTheCaseOfAName) {
     ASSERT_TRUE(host.renameFile(at("a.txt"), at("A.TXT")));
     EXPECT_EQ(namesOf(host.listDirectory(at("a.txt"), false)), (std::vector<std::string>{"A.TXT"}));
 }
@@ -169,58 +163,38 @@ TEST_F(HostFiles, FoldersAreMadeAndRemovedOneEmptyLevelAtATime) {
     EXPECT_FALSE(host.fileAttributes(at("x")).has_value());
 }
 
-class HostRegistry : public ::testing::Test {
-protected:
-    static constexpr const char* kKey = "Software\\OrvantaHostTest\\Settings";
-
-    RegistryKey created() {
-        RegistryKey key = 0;
-        EXPECT_EQ(host.regCreateKey(kHkeyCurrentUser, kKey, key), kErrorSuccess);
-        return key;
-    }
-
+// Keys and names ignore case, a small buffer is told the size it needs, and what is missing or
+// closed is reported with the system's own codes.
+TEST(HostRegistry, BehavesAsTheWindowsRegistryDoes) {
     testing::Sandbox box;
     Host& host = box.host();
-};
-
-TEST_F(HostRegistry, ValuesAreFoundIgnoringTheCaseOfKeysAndNames) {
-    const RegistryKey key = created();
+    RegistryKey key = 0;
+    EXPECT_EQ(host.regOpenKey(kHkeyCurrentUser, "Software\\OrvantaHostTest\\Settings", kKeyRead, key),
+              kErrorFileNotFound);
+    ASSERT_EQ(host.regCreateKey(kHkeyCurrentUser, "Software\\OrvantaHostTest\\Settings", key), kErrorSuccess);
     const std::string four("\x05\x00\x00\x80", 4);
     ASSERT_EQ(host.regSetValue(key, "Compression level", kRegDword, four), kErrorSuccess);
+    ASSERT_EQ(host.regSetValue(key, "Path", kRegSz, "C:\\tools"), kErrorSuccess);
     ASSERT_EQ(host.regCloseKey(key), kErrorSuccess);
 
-    RegistryKey again = 0;
-    ASSERT_EQ(host.regOpenKey(kHkeyCurrentUser, "SOFTWARE\\orvantahosttest\\settings", kKeyRead, again),
+    ASSERT_EQ(host.regOpenKey(kHkeyCurrentUser, "SOFTWARE\\orvantahosttest\\settings", kKeyRead, key),
               kErrorSuccess);
     std::uint32_t type = kRegNone;
     std::string data(4, '\0');
-    EXPECT_EQ(host.regQueryValue(again, "COMPRESSION LEVEL", type, data), kErrorSuccess);
+    EXPECT_EQ(host.regQueryValue(key, "COMPRESSION LEVEL", type, data), kErrorSuccess);
     EXPECT_EQ(type, kRegDword);
     EXPECT_EQ(data, four);
-    host.regCloseKey(again);
-}
 
-TEST_F(HostRegistry, ASmallBufferAsksForMoreAndAStringEndsWithItsNul) {
-    const RegistryKey key = created();
-    ASSERT_EQ(host.regSetValue(key, "Path", kRegSz, "C:\\tools"), kErrorSuccess);
-    std::uint32_t type = kRegNone;
-    std::string data(3, ' ');
+    data.assign(3, ' ');
     ASSERT_EQ(host.regQueryValue(key, "path", type, data), kErrorMoreData);
-    EXPECT_GE(data.size(), 8u) << "the needed size comes back";
+    EXPECT_EQ(data.size(), 9u) << "the needed size, its NUL counted";
+    std::string empty;
+    EXPECT_EQ(host.regQueryValue(key, "path", type, empty), kErrorMoreData);
     data.assign(255, ' ');
     ASSERT_EQ(host.regQueryValue(key, "path", type, data), kErrorSuccess);
     EXPECT_EQ(type, kRegSz);
-    EXPECT_EQ(data, std::string("C:\\tools\0", 9));
-    host.regCloseKey(key);
-}
+    EXPECT_EQ(data, std::string("C:\\tools\0", 9)) << "a string ends with its NUL";
 
-TEST_F(HostRegistry, MissingKeysValuesAndHandlesAreReportedAsOnWindows) {
-    RegistryKey key = 0;
-    EXPECT_EQ(host.regOpenKey(kHkeyCurrentUser, "Software\\OrvantaHostTest\\Nowhere", kKeyRead, key),
-              kErrorFileNotFound);
-    key = created();
-    std::uint32_t type = kRegNone;
-    std::string data(255, ' ');
     EXPECT_EQ(host.regQueryValue(key, "absent", type, data), kErrorFileNotFound);
     ASSERT_EQ(host.regCloseKey(key), kErrorSuccess);
     EXPECT_EQ(host.regQueryValue(key, "absent", type, data), kErrorInvalidHandle) << "closed handle";

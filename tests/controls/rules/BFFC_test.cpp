@@ -9,7 +9,7 @@
 namespace orvanta {
 namespace {
 
-TEST(BFFC, EmptyTitleAndFolderTakeTheDefaultsAndAMissingDriveTheFirstOne) {
+TEST(BFFC, DefaultsAndAMissingDriveFirstThenRecurseOnlyWhenTheBoxWasShown) {
     testing::Sandbox box;
     testing::ScriptedDialogs dialogs;
     BFFC chooser(box.host(), dialogs);
@@ -23,12 +23,7 @@ TEST(BFFC, EmptyTitleAndFolderTakeTheDefaultsAndAMissingDriveTheFirstOne) {
     EXPECT_EQ(dialogs.folderBrowsers[1].title, "Where to?");
     EXPECT_EQ(dialogs.folderBrowsers[1].initialFolder, firstDriveRoot(box.host()));
     EXPECT_EQ(firstDriveRoot(box.host()), "C:\\") << "the first drive there is";
-}
 
-TEST(BFFC, RecurseOnlyCountsWhenTheBoxWasShown) {
-    testing::Sandbox box;
-    testing::ScriptedDialogs dialogs;
-    BFFC chooser(box.host(), dialogs);
     dialogs.answerNextFolder({"C:\\data", true});
     EXPECT_EQ(chooser.OpenBrowse(), "C:\\data");
     EXPECT_FALSE(chooser.DoRecurse());

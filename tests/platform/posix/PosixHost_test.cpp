@@ -9,7 +9,7 @@
 namespace orvanta {
 namespace {
 
-TEST(PosixPlaces, SystemFoldersLiveOnTheSimulatedDriveAndAreMadeOnFirstUse) {
+TEST(PosixPlaces, SystemFoldersAndTheCommandLineSpeakOfTheSimulatedDriveWhoseSpaceIsTheFileSystems) {
     testing::Sandbox box;
     Host& host = box.host();
     EXPECT_EQ(host.specialFolder(38), "C:\\Program Files");
@@ -19,10 +19,10 @@ TEST(PosixPlaces, SystemFoldersLiveOnTheSimulatedDriveAndAreMadeOnFirstUse) {
     EXPECT_TRUE(std::filesystem::is_directory(box.hostRoot() / "data/drive_c/Windows/SysWOW64"));
     EXPECT_EQ(host.specialFolder(5), box.documentsFolder()) << "the configured documents folder";
     EXPECT_EQ(host.specialFolder(7), "");
-}
+    box.config().commandLineSet = false;
+    EXPECT_EQ(box.restartHost().commandLine().find('/'), std::string::npos)
+        << "host paths arrive in Windows form";
 
-TEST(PosixPlaces, FreeSpaceFieldsMultiplyToTheFileSystemsSize) {
-    testing::Sandbox box;
     const auto space = box.host().diskSpace("C:\\");
     struct statvfs info {};
     ASSERT_EQ(::statvfs(box.hostRoot().c_str(), &info), 0);
@@ -45,13 +45,6 @@ TEST(PosixAttributes, HiddenAndSystemAreKeptBesideTheFileWhereTheFileSystemAllow
     EXPECT_EQ(*host.fileAttributes(path) & kAttributeHidden, kAttributeHidden) << "a rewrite keeps them";
     ASSERT_TRUE(host.setFileAttributes(path, kAttributeArchive));
     EXPECT_EQ(*host.fileAttributes(path) & (kAttributeHidden | kAttributeSystem), 0u);
-}
-
-TEST(PosixPlaces, HostPathsOnTheCommandLineArriveInWindowsForm) {
-    testing::Sandbox box;
-    box.config().commandLineSet = false;
-    const std::string line = box.host().commandLine();
-    EXPECT_EQ(line.find('/'), std::string::npos) << line;
 }
 
 // A large folder is stat'ed on two threads; every entry must still get its own size, a dangling

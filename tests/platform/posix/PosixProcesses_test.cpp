@@ -36,7 +36,7 @@ protected:
     testing::Sandbox box;
 };
 
-TEST_F(Processes, BatchFilesAndBuiltinCommandsRunUnderTheCommandProcessor) {
+TEST_F(Processes, BatchFilesRunUnderTheCommandProcessorAndProgramsWithTheirArgumentsMapped) {
     Host& host = box.host();
     box.writeFile("job\\Packager.bat", "echo hi\r\n");
     const std::string dataFolder = (box.hostRoot() / "data").string();
@@ -47,10 +47,7 @@ TEST_F(Processes, BatchFilesAndBuiltinCommandsRunUnderTheCommandProcessor) {
     EXPECT_EQ(box.readFile("args"), "/c\ndel /q \"C:\\a b.txt\"\n" + dataFolder + "\n")
         << "the line is passed whole";
     EXPECT_FALSE(host.startProcess("\"" + box.windowsPath("missing.bat") + "\"", kWindowHidden).has_value());
-}
 
-TEST_F(Processes, ProgramsRunWithTheirWindowsPathArgumentsMapped) {
-    Host& host = box.host();
     testing::writeFakeProgram(box.hostRoot() / "bin" / "7z",
                               "printf '%s\\n' \"$@\" > \"" + (box.hostRoot() / "out").string() + "\"");
     const std::string line =
@@ -62,7 +59,7 @@ TEST_F(Processes, ProgramsRunWithTheirWindowsPathArgumentsMapped) {
     EXPECT_FALSE(host.startProcess("", kWindowHidden).has_value());
 }
 
-TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOut) {
+TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOutAndTheListNamesTheRunningTestProgram) {
     Host& host = box.host();
     const auto id = host.startProcess("sh -c \"sleep 5\"", kWindowHidden);
     ASSERT_TRUE(id.has_value()) << "a bare name is searched on PATH";
@@ -76,11 +73,8 @@ TEST_F(Processes, AWaitEndsWithTheProcessOrTimesOut) {
     EXPECT_EQ(host.waitForProcess(process, 0), WaitResult::Signalled) << "the end is remembered once reaped";
     host.closeProcess(process);
     EXPECT_EQ(host.waitForProcess(0, 0), WaitResult::Failed);
-}
 
-TEST(ProcessList, NamesTheRunningTestProgram) {
-    testing::Sandbox box;
-    const auto names = box.host().processNames();
+    const auto names = host.processNames();
     EXPECT_NE(std::find(names.begin(), names.end(), "platform_tests"), names.end());
 }
 
