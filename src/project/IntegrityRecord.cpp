@@ -1,6 +1,5 @@
 #include "project/IntegrityRecord.h"
 
-
 #include "core/RuntimeError.h"
 #include "core/commonFunctions.h"
 #include "platform/CaseFolding.h"
