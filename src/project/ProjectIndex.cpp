@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/CaseFolding.h"
+#include "platform/WindowsPath.h"
 #include "project/LineFile.h"
 #include "project/ProjectPaths.h"
 
@@ -82,16 +83,11 @@ std::string folderFailureText(const FolderFailure& failure) {
 
 namespace {
 
-std::string parentOf(const std::string& folder) {
-    const std::size_t cut = folder.rfind('\\');
-    return cut == std::string::npos ? std::string() : folder.substr(0, cut);
-}
-
-// The workspace and those of its parents that are missing, outermost first; a drive is never made.
-std::vector<std::string> missingWorkspaceFolders(Host& host, const std::string& workspaceFolder) {
+// The missing folders above the workspace, outermost first; a drive is never made.
+std::vector<std::string> missingWorkspaceParents(Host& host, const std::string& workspaceFolder) {
     std::vector<std::string> missing;
-    for (std::string folder = workspaceFolder; folder.size() > 3 && !host.fileAttributes(folder);
-         folder = parentOf(folder))
+    for (std::string folder = parentFolder(workspaceFolder);
+         folder.size() > 3 && !host.fileAttributes(folder); folder = parentFolder(folder))
         missing.insert(missing.begin(), folder);
     return missing;
 }
@@ -100,7 +96,7 @@ std::string whyNotCreated(Host& host, const std::string& folder, const std::stri
     if (host.fileAttributes(folder)) return "a file of that name is in the way.";
     const std::string refusal =
         systemError.empty() ? "the system refused it." : "the system said \"" + systemError + "\".";
-    return refusal + " Check that you may write to \"" + parentOf(folder) +
+    return refusal + " Check that you may write to \"" + parentFolder(folder) +
            "\" and that its drive is neither full nor read-only.";
 }
 
@@ -109,7 +105,7 @@ std::string whyNotCreated(Host& host, const std::string& folder, const std::stri
 std::optional<FolderFailure> createProjectTree(Host& host, const std::string& workspaceFolder,
                                                const std::string& name) {
     const std::string root = projectRoot(workspaceFolder, name);
-    std::vector<std::string> folders = missingWorkspaceFolders(host, workspaceFolder);
+    std::vector<std::string> folders = missingWorkspaceParents(host, workspaceFolder);
     folders.insert(folders.end(), {workspaceFolder, myInstallersFolder(workspaceFolder), root});
     for (std::string_view below :
          {projectfolder::kFiles, projectfolder::kExecutables, projectfolder::kFonts, projectfolder::kPackages,

@@ -232,7 +232,7 @@ private:
     // this folder all the same, the marker named after the project's name.
     void reportForeignName() {
         const std::string name = fields_.text(appName);
-        if (toLowerCase(name) == toLowerCase(lastComponentOf(root_))) return;
+        if (equalsIgnoringCase(name, lastComponent(root_))) return;
         dialogs_.messageBox({"The folder \"" + root_ + "\" holds the project \"" + name +
                                  "\", whose own folder is \"" + projectRoot(vars::workspaceFolder, name) +
                                  "\".\r\nSaving writes only into \"" + root_ + "\", with the marker file \"" +

@@ -58,18 +58,13 @@ std::optional<std::string> above(std::string_view path, int n, std::string_view 
         if (cut == std::string_view::npos) return std::nullopt;
         path = path.substr(0, cut);
     }
-    if (toLowerCase(lastComponentOf(path)) != expected) return std::nullopt;
+    if (!equalsIgnoringCase(lastComponent(path), expected)) return std::nullopt;
     const auto cut = path.rfind('\\');
     if (cut == std::string_view::npos) return std::nullopt;
     return std::string(path.substr(0, cut));
 }
 
 }  // namespace
-
-std::string lastComponentOf(std::string_view path) {
-    const auto cut = path.rfind('\\');
-    return std::string(cut == std::string_view::npos ? path : path.substr(cut + 1));
-}
 
 std::string projectRootOf(std::string_view workingSet,
                           const std::function<bool(const std::string&)>& isProjectRoot) {

@@ -81,8 +81,6 @@ std::string projectRootOf(std::string_view workingSet,
 // settings file. Everything that writes or opens below the root takes it from here, not from
 // the name, so a hand-copied project folder stays apart from its original.
 std::string projectRootOnDisk(Host& host, std::string_view workingSet);
-// The last component of a path.
-std::string lastComponentOf(std::string_view path);
 // "\v<version>": the application's files of one version, beside "\files".
 std::string versionFilesFolder(std::string_view workingSet, std::string_view version);
 
