@@ -2,13 +2,6 @@
 
 namespace orvanta {
 
-std::string toDialogFilter(std::string filter) {
-    for (char& c : filter)
-        if (c == '|') c = '\0';
-    filter.append(2, '\0');
-    return filter;
-}
-
 std::vector<DialogFilterEntry> splitDialogFilter(const std::string& filter) {
     std::vector<std::string> parts;
     std::string::size_type start = 0;

@@ -9,9 +9,6 @@
 
 namespace orvanta {
 
-// "Executable files|*.exe;*.bat" -> the NUL-separated form the dialog takes, ended by two NULs.
-std::string toDialogFilter(std::string filter);
-
 // One entry of a filter: what the user reads and the patterns it stands for ("*.exe;*.bat").
 struct DialogFilterEntry {
     std::string description;
