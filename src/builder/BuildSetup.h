@@ -16,7 +16,8 @@ struct BuildSetup {
     std::string sevenZipFolder;    // with trailing backslash
     std::string workspaceFolder;   // no trailing backslash
     std::string applicationFolder;
-    std::string settingsKey;  // where "verbose" is read
+    std::string settingsKey;           // where "verbose" is read
+    int* packagerItemIndex = nullptr;  // the editor's index of the per-entry loop, reset first
 
     // Optional steps of the headless build. Each returns an error text, empty on success; a
     // failure stops the build at that step.
