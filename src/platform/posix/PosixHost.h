@@ -79,6 +79,7 @@ private:
     std::optional<StoredValue> registrationValue(const std::string& keyPath, const std::string& name);
 
     std::optional<std::vector<std::string>> hostArguments(const std::string& commandLine);
+    void joinUnquotedProgramPath(const std::string& commandLine, std::vector<std::string>& words);
 
     std::string lastFolderError_;
     std::optional<std::vector<std::string>> programArguments(const std::vector<std::string>& words);

@@ -82,7 +82,28 @@ std::string processName(const std::string& id) {
     return name;
 }
 
+bool isFileHere(const std::string& hostPath) {
+    return !hostPath.empty() && ::access(hostPath.c_str(), F_OK) == 0;
+}
+
 }  // namespace
+
+// An unquoted program path with blanks runs as Windows runs it: the shortest run of words that
+// names an existing file ("Z:\My Documents\packager.bat" is one program, not "Z:\My").
+void PosixHost::joinUnquotedProgramPath(const std::string& commandLine, std::vector<std::string>& words) {
+    if (commandLine.front() == '"' || !looksLikeWindowsPath(words[0]) || isFileHere(toHostPath(words[0])))
+        return;
+    std::string candidate = words[0];
+    for (std::size_t count = 2; count <= words.size(); ++count) {
+        candidate += " " + words[count - 1];
+        const std::string hostPath = toHostPath(candidate);
+        if (isFileHere(hostPath) || (!endsWithExe(candidate) && isFileHere(hostPath + ".exe"))) {
+            words.erase(words.begin() + 1, words.begin() + static_cast<std::ptrdiff_t>(count));
+            words[0] = candidate;
+            return;
+        }
+    }
+}
 
 std::string PosixHost::commandProcessor() const {
     if (!config_.commandProcessor.empty()) return config_.commandProcessor;
@@ -91,8 +112,9 @@ std::string PosixHost::commandProcessor() const {
 
 // The argument vector a command line runs as here, or nothing when its program is missing.
 std::optional<std::vector<std::string>> PosixHost::hostArguments(const std::string& commandLine) {
-    const auto words = splitCommandLine(commandLine);
+    auto words = splitCommandLine(commandLine);
     if (words.empty()) return std::nullopt;
+    joinUnquotedProgramPath(commandLine, words);
     if (isBuiltinCommand(words[0])) return std::vector<std::string>{commandProcessor(), "/c", commandLine};
     if (!isBatchFile(words[0])) return programArguments(words);
     const std::string batch = toHostPath(words[0]);
