@@ -47,4 +47,11 @@ void BuildSteps::requireOutput(const std::string& step, const std::string& path)
     if (!exists(path)) throw BuildStopped{step, "The archiver did not make " + path + "."};
 }
 
+void BuildSteps::requireGrowth(const std::string& step, const std::string& archive,
+                               std::optional<std::uint64_t> before) {
+    requireOutput(step, archive);
+    if (before && *host_.fileLength(archive) <= *before)
+        throw BuildStopped{step, "The archiver added nothing to " + archive + "."};
+}
+
 }  // namespace orvanta

@@ -2,6 +2,8 @@
 // The file operations of a build, each of which stops the build with the step and the file
 // concerned when it fails.
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "platform/Host.h"
@@ -25,6 +27,9 @@ public:
     void remove(const std::string& step, const std::string& path);
     // A file the archiver was to make.
     void requireOutput(const std::string& step, const std::string& path);
+    // An archive the archiver was to make or add to: it exists and is longer than `before`.
+    void requireGrowth(const std::string& step, const std::string& archive,
+                       std::optional<std::uint64_t> before);
 
 private:
     bool exists(const std::string& path);

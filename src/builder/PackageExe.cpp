@@ -156,13 +156,14 @@ private:
         progress_.processPendingEvents();
         progress_.pause(1500);
         requireArchiver();
+        const std::string archive = compiled() + (winRar() ? "\\package.exe" : "\\package.7z");
+        const auto before = host_.fileLength(archive);
         shellAndWait(host_, batch("\\packager2.bat"), 0, 0);
+        steps_.requireGrowth(step_, archive, before);
         if (winRar()) {
-            steps_.rename(step_, compiled() + "\\package.exe", compiled() + "\\package.rar");
+            steps_.rename(step_, archive, compiled() + "\\package.rar");
             progress_.processPendingEvents();
             raise(25);
-        } else {
-            steps_.requireOutput(step_, compiled() + "\\package.7z");
         }
     }
 
@@ -180,7 +181,10 @@ private:
         progress_.processPendingEvents();
         RegistryAPI registry(host_);
         const int verbose = registry.readSettingNumber(setup_.settingsKey, "verbose", 0);
+        const std::string archive = compiled() + (winRar() ? "\\package.rar" : "\\package.7z");
+        const auto before = host_.fileLength(archive);
         shellAndWait(host_, batch("\\packager.bat"), verbose == 1 ? 1 : 0, 0);
+        steps_.requireGrowth(step_, archive, before);
         raise(35);
         progress_.processPendingEvents();
         caption(kRenaming);

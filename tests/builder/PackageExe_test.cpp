@@ -201,5 +201,67 @@ INSTANTIATE_TEST_SUITE_P(
                       Case{"WinRarBlankWorkspace", "winrar", false, true, false, false, true, false}),
     [](const ::testing::TestParamInfo<Case>& param) { return std::string(param.param.name); });
 
+// Where a build cannot go on it stops at that step, says so with the file concerned, closes its
+// window and leaves the project as the save wrote it, with nothing under the package's name.
+TEST_F(PackageExeTest, AFailedStepStopsTheBuildCleanly) {
+    struct Stop {
+        const char* name;
+        const char* compressor;
+        std::function<void()> arrange;
+        const char* step;
+        const char* file;  // named in the reason
+    };
+    const Stop stops[] = {
+        {"missing stub", "7zip",
+         [this] { box.host().deleteFile(box.applicationFolder() + "\\data\\package2"); },
+         "Copying root files...", "data\\package2"},
+        {"archiver gone", "7zip", [this] { box.host().deleteFile(tools + "7z.exe"); },
+         "Packaging setup files...", "7z.exe"},
+        {"archiver fails", "7zip", [this] { box.writeFile("tools\\7z.exe", "not a program"); },
+         "Packaging setup files...", "package.7z"},
+        {"WinRAR archiver fails", "winrar", [this] { box.writeFile("tools\\rar.exe", "not a program"); },
+         "Packaging setup files...", "package.exe"},
+        {"leftover archive", "winrar",
+         [this] {
+             box.host().createFolder(root + "\\compiled");
+             box.host().writeFileAtomic(root + "\\compiled\\package.rar", "old");
+         },
+         "Packaging setup files...", "package.rar"},
+        {"the build's own name", "7zip", [this] { fields->setText(finalPackageName, "Package.exe"); },
+         "Renaming the package to the one selected...", "package.exe"},
+        {"package still running", "7zip",
+         [this] {
+             box.host().createFolder(root + "\\compiled");
+             box.host().writeFileAtomic(root + "\\compiled\\Demo Setup 1.0.exe", "running");
+             box.host().setFileAttributes(root + "\\compiled\\Demo Setup 1.0.exe", kAttributeReadOnly);
+         },
+         "Renaming the package to the one selected...", "Demo Setup 1.0.exe"},
+    };  // in this order: each case finds what the ones before it left
+    for (const Stop& stop : stops) {
+        SCOPED_TRACE(stop.name);
+        SetUp();
+        stop.arrange();
+        RecordingProgress progress;
+        auto building = context();
+        const BuildResult result = packageexe(building, setupFor(stop.compressor), progress, "\\files");
+
+        EXPECT_FALSE(result.built);
+        EXPECT_EQ(result.failedStep, stop.step);
+        EXPECT_NE(result.reason.find(stop.file), std::string::npos) << result.reason;
+        EXPECT_EQ(progress.journal.back(), "close");
+        ASSERT_FALSE(dialogs.messageBoxes.empty());
+        EXPECT_NE(dialogs.messageBoxes.back().text.find(stop.step), std::string::npos);
+        const auto left = contents(root + "\\compiled\\" + vars::finalPackageFile);
+        if (vars::finalPackageFile != "Package.exe") {
+            EXPECT_TRUE(left.empty() || left == "running") << left;
+        }
+        // The saved project loads again as it was.
+        auto reopened = freshEditor();
+        EXPECT_EQ(load(*reopened), LoadOutcome::Loaded);
+        EXPECT_EQ(reopened->text(appAuthor), "Ann");
+        dialogs.messageBoxes.clear();
+    }
+}
+
 }  // namespace
 }  // namespace orvanta
