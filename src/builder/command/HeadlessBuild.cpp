@@ -1,0 +1,85 @@
+#include "builder/command/HeadlessBuild.h"
+
+#include <filesystem>
+
+#include "builder/PackageChecks.h"
+#include "builder/PackageExe.h"
+#include "builder/command/BuildHooks.h"
+#include "builder/command/ExitCodes.h"
+#include "builder/command/ProcessSetup.h"
+#include "builder/command/TerminalProgress.h"
+#include "core/commonFunctions.h"
+#include "platform/AnsiText.h"
+#include "project/MemoryProjectFields.h"
+#include "project/ProjectLoader.h"
+#include "project/WorkingSetChoice.h"
+
+namespace orvanta {
+
+namespace {
+
+// No window to move between: the checks' moves of page and focus have nowhere to go.
+class NoForm : public CheckedForm {
+public:
+    void showPage(int) override {}
+    void focus(ControlName, Caret) override {}
+};
+
+std::string projectRoot(Host& host, const std::string& hostFolder) {
+    std::error_code error;
+    std::filesystem::path path = std::filesystem::absolute(hostFolder, error).lexically_normal();
+    std::string root = host.toWindowsPath(path.string());
+    while (root.size() > 3 && root.back() == '\\') root.pop_back();
+    return root;
+}
+
+HeadlessResult fail(ConsoleOutput& messages, int exitCode, const std::string& text) {
+    messages.line(text);
+    return {exitCode, {}};
+}
+
+}  // namespace
+
+HeadlessResult runHeadlessBuild(Host& host, Dialogs& dialogs, ConsoleOutput& messages,
+                                const BuildOptions& options) {
+    ProcessSetup process = setUpProcess(host, dialogs, options);
+    if (!process.error.empty()) return fail(messages, exitcode::kNotFound, process.error);
+
+    const std::string root = projectRoot(host, options.projectFolder);
+    if (fileExists(host, root + "\\mainsettings.cfg") == kFalse)
+        return fail(messages, exitcode::kNotFound,
+                    "No saved project in " + root + " (mainsettings.cfg is missing).");
+    const WorkingSetChoice choice =
+        chooseWorkingSet(root, options.edition, options.version,
+                         [&](const std::string& f) { return folderExists(host, f) == kTrue; });
+    if (!choice.folder)
+        return fail(messages, exitcode::kNotFound,
+                    "The project in " + root + " has no working set for the edition \"" + options.edition +
+                        "\" and the version \"" + options.version + "\".");
+
+    MemoryProjectFields fields(&host);
+    EditorContext context{host, dialogs, fields, {}};
+    // Always the same letter, so the integrity record keeps its name from build to build.
+    if (options.reproducible) context.random = [] { return 0.0; };
+    if (loadProject(context, *choice.folder) != LoadOutcome::Loaded)
+        return fail(messages, exitcode::kNotFound,
+                    "The project in " + *choice.folder + " could not be loaded.");
+
+    NoForm form;
+    const PackageCheckResult checks = runPackageChecks(host, dialogs, fields, form);
+    for (const std::string& repair : checks.repairs) messages.line("Repaired: " + repair);
+    if (!checks.passed())
+        return fail(
+            messages, exitcode::kCheckFailed + checks.failedCheck,
+            "Check " + std::to_string(checks.failedCheck) + " of the package failed; nothing was built.");
+
+    const std::string hookError = addBuildHooks(host, options, *choice.folder, process.build);
+    if (!hookError.empty()) return fail(messages, exitcode::kUsage, hookError);
+
+    TerminalProgress progress(messages);
+    const BuildResult built = packageexe(context, process.build, progress, "\\files");
+    if (!built.built || fileExists(host, built.package) == kFalse) return {exitcode::kBuildStopped, {}};
+    return {exitcode::kBuilt, host.toHostPath(built.package)};
+}
+
+}  // namespace orvanta

@@ -1,0 +1,36 @@
+// orvanta-build: the final package of a saved project, built without windows (for CI).
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "builder/command/BuildOptions.h"
+#include "builder/command/ConsoleDialogs.h"
+#include "builder/command/ExitCodes.h"
+#include "builder/command/HeadlessBuild.h"
+#include "core/RuntimeError.h"
+
+int main(int argc, char** argv) {
+    using namespace orvanta;
+    const ParsedOptions parsed = parseBuildOptions(std::vector<std::string>(argv + 1, argv + argc));
+    if (!parsed.options) {
+        std::fprintf(stderr, "orvanta-build: %s\nTry \"orvanta-build --help\".\n", parsed.error.c_str());
+        return exitcode::kUsage;
+    }
+    if (parsed.options->help) {
+        std::fputs(buildHelpText().c_str(), stdout);
+        return exitcode::kBuilt;
+    }
+    ConsoleOutput messages(stderr);
+    ConsoleDialogs dialogs(messages);
+    HostConfig config;
+    config.commandLineSet = true;  // the entry routine must not take our arguments for a marker
+    try {
+        const std::unique_ptr<Host> host = createHost(config);
+        const HeadlessResult result = runHeadlessBuild(*host, dialogs, messages, *parsed.options);
+        if (!result.package.empty()) std::printf("%s\n", result.package.c_str());
+        return result.exitCode;
+    } catch (const RuntimeError& error) {
+        messages.line("Run-time error " + std::to_string(error.number()) + ": " + error.description());
+        return exitcode::kBuildStopped;
+    }
+}
