@@ -30,7 +30,10 @@ std::string addBuildHooks(Host& host, const BuildOptions& options, const std::st
     }
     if (!sign.empty())
         setup.afterBuild = [&host, sign](const std::string& package) {
-            return runSignCommand(sign, host.toHostPath(package));
+            std::string error = runSignCommand(sign, host.toHostPath(package));
+            // An unsigned package under the final name would pass for a good one in a CI's output.
+            if (!error.empty() && host.deleteFile(package)) error += "\r\nThe unsigned package was removed.";
+            return error;
         };
     return {};
 }

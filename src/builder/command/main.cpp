@@ -1,4 +1,6 @@
 // orvanta-build: the final package of a saved project, built without windows (for CI).
+#include <unistd.h>
+
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -20,6 +22,10 @@ int main(int argc, char** argv) {
         std::fputs(buildHelpText().c_str(), stdout);
         return exitcode::kBuilt;
     }
+    // The archivers print on the standard output they inherit; ours carries only the package's
+    // path, so a script can take it whole.
+    std::FILE* packageOutput = fdopen(dup(fileno(stdout)), "w");
+    dup2(fileno(stderr), fileno(stdout));
     ConsoleOutput messages(stderr);
     ConsoleDialogs dialogs(messages);
     HostConfig config;
@@ -27,7 +33,8 @@ int main(int argc, char** argv) {
     try {
         const std::unique_ptr<Host> host = createHost(config);
         const HeadlessResult result = runHeadlessBuild(*host, dialogs, messages, *parsed.options);
-        if (!result.package.empty()) std::printf("%s\n", result.package.c_str());
+        if (!result.package.empty() && packageOutput)
+            std::fprintf(packageOutput, "%s\n", result.package.c_str());
         return result.exitCode;
     } catch (const RuntimeError& error) {
         messages.line("Run-time error " + std::to_string(error.number()) + ": " + error.description());

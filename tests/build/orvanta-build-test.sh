@@ -1,0 +1,186 @@
+#!/usr/bin/env bash
+# orvanta-build end to end: a project made by makeproject, built through the command processor
+# with real 7-Zip and with a recording rar; reproducible builds, signing, and the package under
+# wine with a fresh prefix (only once the real stubs lie beside the program).
+# Usage: orvanta-build-test.sh BIN_FOLDER MAKEPROJECT
+set -uo pipefail
+bin=$1
+makeproject=$2
+here=$(cd "$(dirname "$0")" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+fail() {
+    echo "FAIL: $*" >&2
+    failures=$((failures + 1))
+}
+# expect NAME EXPECTED ACTUAL: the two texts, line by line.
+expect() {
+    if [ "$2" != "$3" ]; then
+        fail "$1"
+        diff <(printf '%s\n' "$2") <(printf '%s\n' "$3") >&2
+    fi
+}
+command -v 7z >/dev/null || { echo "7z is not installed (p7zip-full): skipped"; exit 77; }
+
+# A user of our own: workspace, registry store and 7-Zip's registration below $work.
+export HOME=$work/home XDG_DATA_HOME=$work/home/data
+unset XDG_DOCUMENTS_DIR SOURCE_DATE_EPOCH
+project=$("$makeproject" "$HOME/Documents/Orvanta") || exit 1
+package="$project/compiled/Demo Setup 1.0.exe"
+build() { "$bin/orvanta-build" "$project" "$@" >"$work/out" 2>"$work/err"; }
+is_program() { [ "$(head -c 2 "$1")" = MZ ]; }
+
+# Paths of the archive's entries, with "/" for folders; 7-Zip lists folders and empty files
+# first, so the order of adding shows in the entries that hold data, listed apart after "--".
+listing() {
+    7z l -slt "$1" | awk -F' = ' '
+        /^----------/ { body = 1 }
+        body && /^Path = / { path = $2 }
+        body && /^Attributes = / { folder = substr($2, 1, 1) == "D" }
+        body && /^Size = / { size = $2 }
+        body && /^$/ && path != "" {
+            if (folder) dirs = dirs path "/\n"; else if (size == 0) empty = empty path "\n"; else data = data path "\n"
+            path = ""
+        }
+        END { printf "%s%s--\n%s", dirs, empty, data }'
+}
+
+# ---- 7-Zip: every setup file that exists, in the order of its list, then the application files.
+build || fail "7-Zip build: exit $? $(cat "$work/err")"
+hash=$(cd "$project" && ls ./*hsh | sed 's|^\./||')
+expect "the package's path on standard output" "$package" "$(cat "$work/out")"
+expect "7-Zip package entries" "files/
+files/bin/
+files/bin/deep folder/
+fonts/
+packages/
+settingsset/
+dependencies.cfg
+files/bin/deep folder/empty.txt
+packages.cfg
+settingsset/settings.cfg
+--
+$hash
+files.cfg
+folders.cfg
+mainsettings.cfg
+appdatalocations.cfg
+registrylocations.cfg
+intro.cfg
+tips.cfg
+uninstallIntro.cfg
+uninstallEnd.cfg
+ok.png
+check.png
+install.exe
+install.exe.manifest
+uninstall.exe
+cleanup.bat
+fonts.cfg
+files/bin/data.bin
+files/demo.exe
+files/readme.txt
+packages/extra.txt
+fonts/demo.ttf" "$(listing "$package")"
+expect "what the 7-Zip build leaves" "Demo Setup 1.0.exe" "$(ls "$project/compiled")"
+[ ! -e "$project/install.exe" ] || fail "the staged install.exe was left in the project"
+grep -q "75% Cleaning temporary files..." "$work/err" || fail "plain progress lines: $(cat "$work/err")"
+
+# ---- A failed check: its message, its exit status, nothing built.
+rm -f "$package"
+sed -i '2s/.*/\r/' "$project/mainsettings.cfg"
+build
+expect "exit status of a missing publisher" 11 $?
+grep -q "You must name an author/publisher!" "$work/err" || fail "check message: $(cat "$work/err")"
+[ ! -e "$package" ] || fail "a failed check built a package"
+"$makeproject" "$HOME/Documents/Orvanta" >/dev/null
+
+# ---- WinRAR: every call of the recording rar, and the archive renamed between the two runs.
+mkdir -p "$work/rar"
+ln -s "$here/recording-rar.sh" "$work/rar/rar"
+export RAR_LOG=$work/rar.log
+PATH="$work/rar:$PATH" build --compressor winrar --level 2 || fail "WinRAR build: exit $? $(cat "$work/err")"
+hash=$(cd "$project" && ls ./*hsh | sed 's|^\./||')
+stub=$(head -n 1 "$bin/data/package" | cut -c1-30)
+calls="" held="$stub .. $(tail -n 1 "$bin/data/package")"
+setup_call() {
+    calls="$calls
+held: $held
+[a][-ep1][-md4096][-m5][$project/compiled/package.exe][$project/$1]"
+    [ -e "$project/$1" ] || [ "$1" = install.exe ] || [ "$1" = uninstall.exe ] && held="$stub .. +$1"
+}
+for file in "$hash" files.cfg folders.cfg mainsettings.cfg dependencies.cfg appdatalocations.cfg \
+    registrylocations.cfg intro.cfg tips.cfg uninstallIntro.cfg packages.cfg uninstallEnd.cfg check.png \
+    ok.png install.exe install.exe.manifest uninstall.exe cleanup.bat logo.png 1.jpg preview.png \
+    slicense.txt prgbar.ocx executables.cfg fonts.cfg; do
+    setup_call "$file"
+done
+for folder in files packages settingsset fonts; do
+    calls="$calls
+held: $held
+[a][-ep1][-md4096][-m2][$project/compiled/package.rar][$project/$folder]"
+    held="$stub .. +$folder"
+done
+calls="$calls
+held: $held
+[k][$project/compiled/package.rar]"
+expect "the calls of rar" "${calls#?}" "$(cat "$RAR_LOG")"
+expect "the WinRAR package ends locked" locked "$(tail -n 1 "$package")"
+[ ! -e "$project/compiled/package.rar" ] && [ ! -e "$project/compiled/package.exe" ] ||
+    fail "the WinRAR build left its temporary archive"
+
+# ---- Reproducible: two builds a day apart in file times give the same bytes.
+export SOURCE_DATE_EPOCH=1700000000
+build --reproducible || fail "reproducible build: exit $? $(cat "$work/err")"
+cp "$package" "$work/first.exe"
+touch "$project/files/demo.exe" "$project/fonts"
+sleep 1
+build --reproducible || fail "second reproducible build: exit $? $(cat "$work/err")"
+cmp "$work/first.exe" "$package" || fail "two reproducible builds differ"
+dates=$(7z l -slt "$package" | sed -n 's/^Modified = \(.\{19\}\).*/\1/p' | sort -u)
+expect "every entry has the time of SOURCE_DATE_EPOCH" "2023-11-14 22:13:20" "$dates"
+unset SOURCE_DATE_EPOCH
+
+# ---- Signing: the programs before packing, the package after the join; a failure fails the build.
+build --sign-command 'printf "<signed>" >>{}' || fail "signing build: exit $? $(cat "$work/err")"
+expect "the package is signed last" "<signed>" "$(tail -c 8 "$package")"
+7z e -so "$package" install.exe | tail -c 8 | grep -q "<signed>" || fail "install.exe was packed unsigned"
+build --sign-command 'case {} in *Setup*) exit 3 ;; esac'
+expect "exit status of a failed signing of the package" 1 $?
+grep -q "The signing command failed" "$work/err" || fail "signing failure message: $(cat "$work/err")"
+[ ! -e "$package" ] || fail "an unsigned package was left under the final name"
+
+if is_program "$bin/data/install" && is_program "$bin/data/package2"; then
+    # ---- Real signing and the package under wine, with the stand-in installer's report.
+    openssl req -x509 -newkey rsa:2048 -nodes -keyout "$work/k.pem" -out "$work/c.pem" -days 2 \
+        -subj "/CN=Orvanta test" 2>/dev/null
+    sign="osslsigncode sign -certs '$work/c.pem' -key '$work/k.pem' -in {} -out {}.signed && mv {}.signed {}"
+    build --sign-command "$sign" >/dev/null 2>&1 || fail "osslsigncode build: exit $? $(cat "$work/err")"
+    osslsigncode verify -CAfile "$work/c.pem" "$package" >"$work/verify" 2>&1 ||
+        fail "the signed package does not verify: $(cat "$work/verify")"
+    export WINEPREFIX=$work/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+    wineboot --init >/dev/null 2>&1
+    report=$work/report.txt
+    ORVANTA_STANDIN_REPORT="Z:${report//\//\\}" wine "$package" /S "two words" >/dev/null 2>&1
+    wineserver --wait
+    [ -f "$report" ] || fail "the package did not start install.exe under wine"
+    for argument in /S "two words"; do
+        grep -qF -- "$argument" "$report" || fail "install.exe did not get the argument $argument"
+    done
+    # Each file of the archive, by its last name, with its size and CRC-32 on one line.
+    (cd "$project" && ls ./*hsh ./*.cfg ok.png check.png install.exe.manifest cleanup.bat &&
+        find files packages fonts -type f) | while read -r file; do
+        size=$(stat -c %s "$project/$file")
+        crc=$(gzip -c <"$project/$file" | tail -c 8 | od -An -tx4 -N4 | tr -d ' ')
+        grep -iF "$crc" "$report" | grep -F "$(basename "$file")" | grep -qw "$size" ||
+            echo "$file ($size bytes, CRC $crc) is not in the installer's report"
+    done >"$work/missing"
+    [ -s "$work/missing" ] && fail "$(cat "$work/missing")"
+else
+    echo "the stubs beside the program are stand-ins: signing with osslsigncode and wine skipped"
+fi
+
+[ "$failures" -eq 0 ] && echo "orvanta-build: all passed"
+exit $((failures > 0))
