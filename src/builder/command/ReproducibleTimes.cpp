@@ -59,7 +59,9 @@ public:
             failed_ = "The folder " + shown(folder) + " could not be read: " + error.message();
             return false;
         }
-        return stamp(folder);
+        // The C runtime of Windows sets no folder's time; the archive then keeps the folder's own.
+        fs::last_write_time(folder, time_, error);
+        return true;
     }
 
     const std::string& failure() const { return failed_; }

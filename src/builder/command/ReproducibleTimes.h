@@ -20,7 +20,8 @@ EpochSetting sourceDateEpoch();
 std::optional<std::int64_t> fileTimeSeconds(const std::string& hostPath);
 
 // Gives `seconds` to the files at the top of the working folder and to everything below the
-// folders the archive takes whole (their own time included, after their contents). Host paths.
+// folders the archive takes whole (their own time too, after their contents, where the host lets
+// a folder's time be set). Host paths.
 // An error text naming the file that could not be touched; empty on success.
 std::string stampArchivedFiles(const std::string& workingFolder, const std::string& filesFolder,
                                std::int64_t seconds);

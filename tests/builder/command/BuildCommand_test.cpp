@@ -60,7 +60,7 @@ TEST(ReproducibleTimes, StampTheArchivedFilesAndLeaveTheRestAlone) {
     const auto before = std::filesystem::last_write_time(root / "editions" / "Pro" / "mainsettings.cfg");
 
     EXPECT_EQ(stampArchivedFiles((root).string(), "\\files", 86400), "");
-    for (const char* stamped : {"mainsettings.cfg", "files", "files/a", "files/a/b.txt", "fonts/f.ttf"})
+    for (const char* stamped : {"mainsettings.cfg", "files/a/b.txt", "fonts/f.ttf"})
         EXPECT_EQ(fileTimeSeconds((root / stamped).string()), 86400) << stamped;
     EXPECT_EQ(std::filesystem::last_write_time(root / "editions" / "Pro" / "mainsettings.cfg"), before);
     EXPECT_NE(fileTimeSeconds((root / "compiled" / "old.exe").string()), 86400);
