@@ -10,7 +10,7 @@ second and keep the count as it stands in the name. The figures come first, the 
 import json
 import sys
 
-REFERENCES = ("zlib", "libdeflate", "libspng", "libpng", "qt", "listing", "sizedlisting", "getline")
+REFERENCES = ("zlib", "libdeflate", "libspng", "libpng", "qt", "listing", "sizedlisting", "getline", "archiver")
 
 
 def size_name(argument):
