@@ -47,23 +47,26 @@ HeadlessResult runHeadlessBuild(Host& host, Dialogs& dialogs, ConsoleOutput& mes
 
     const std::string root = projectRoot(host, options.projectFolder);
     if (fileExists(host, root + "\\mainsettings.cfg") == kFalse)
-        return fail(messages, exitcode::kNotFound,
-                    "No saved project in " + root + " (mainsettings.cfg is missing).");
+        return fail(
+            messages, exitcode::kNotFound,
+            "No saved project in " + utf8ToAnsi(host.toHostPath(root)) + " (mainsettings.cfg is missing).");
     const WorkingSetChoice choice =
         chooseWorkingSet(root, options.edition, options.version,
                          [&](const std::string& f) { return folderExists(host, f) == kTrue; });
     if (!choice.folder)
         return fail(messages, exitcode::kNotFound,
-                    "The project in " + root + " has no working set for the edition \"" + options.edition +
-                        "\" and the version \"" + options.version + "\".");
+                    "The project in " + utf8ToAnsi(host.toHostPath(root)) +
+                        " has no working set for the edition \"" + options.edition + "\" and the version \"" +
+                        options.version + "\".");
 
     MemoryProjectFields fields(&host);
     EditorContext context{host, dialogs, fields, {}};
     // Always the same letter, so the integrity record keeps its name from build to build.
     if (options.reproducible) context.random = [] { return 0.0; };
     if (loadProject(context, *choice.folder) != LoadOutcome::Loaded)
-        return fail(messages, exitcode::kNotFound,
-                    "The project in " + *choice.folder + " could not be loaded.");
+        return fail(
+            messages, exitcode::kNotFound,
+            "The project in " + utf8ToAnsi(host.toHostPath(*choice.folder)) + " could not be loaded.");
 
     NoForm form;
     const PackageCheckResult checks = runPackageChecks(host, dialogs, fields, form);
