@@ -171,7 +171,7 @@ if is_program "$bin/data/install" && is_program "$bin/data/package2"; then
     done
     # Each file of the archive, by its last name, with its size and CRC-32 on one line.
     (cd "$project" && ls ./*hsh ./*.cfg ok.png check.png install.exe.manifest cleanup.bat &&
-        find files packages fonts -type f) | while read -r file; do
+        find files packages settingsset fonts -type f) | while read -r file; do
         size=$(stat -c %s "$project/$file")
         crc=$(gzip -c <"$project/$file" | tail -c 8 | od -An -tx4 -N4 | tr -d ' ')
         grep -iF "$crc" "$report" | grep -F "$(basename "$file")" | grep -qw "$size" ||

@@ -93,7 +93,9 @@ Options:
                         the archiver (default 7zip: the private copy beside the program, else
                         7z on PATH); winrar takes rar from PATH
   --level 0-5           compression level of the application files, WinRAR only (default 5)
-  --verbose             let the archiver's run over the application files print its output
+  --verbose             run the archiver's pass over the application files in a console
+                        window of its own on Windows, as the package dialog's "Use verbose
+                        mode" does (elsewhere the archiver always prints to standard error)
   --reproducible        give every staged and archived file the time SOURCE_DATE_EPOCH (or,
                         without it, the time of the project's last save) and the integrity
                         record a fixed name, so two builds of one project give the same bytes
