@@ -33,6 +33,23 @@ std::string projectRoot(Host& host, const std::string& hostFolder) {
     return root;
 }
 
+// The working set the edition and version name, or nothing when there is none (and why is told).
+WorkingSetChoice findWorkingSet(Host& host, const BuildOptions& options, ConsoleOutput& messages) {
+    const std::string root = projectRoot(host, options.projectFolder);
+    const std::string shownRoot = utf8ToAnsi(host.toHostPath(root));
+    if (fileExists(host, root + "\\mainsettings.cfg") == kFalse) {
+        messages.line("No saved project in " + shownRoot + " (mainsettings.cfg is missing).");
+        return {};
+    }
+    WorkingSetChoice choice =
+        chooseWorkingSet(root, options.edition, options.version,
+                         [&](const std::string& f) { return folderExists(host, f) == kTrue; });
+    if (!choice.folder)
+        messages.line("The project in " + shownRoot + " has no working set for the edition \"" +
+                      options.edition + "\" and the version \"" + options.version + "\".");
+    return choice;
+}
+
 HeadlessResult fail(ConsoleOutput& messages, int exitCode, const std::string& text) {
     messages.line(text);
     return {exitCode, {}};
@@ -45,19 +62,8 @@ HeadlessResult runHeadlessBuild(Host& host, Dialogs& dialogs, ConsoleOutput& mes
     ProcessSetup process = setUpProcess(host, dialogs, options);
     if (!process.error.empty()) return fail(messages, exitcode::kNotFound, process.error);
 
-    const std::string root = projectRoot(host, options.projectFolder);
-    if (fileExists(host, root + "\\mainsettings.cfg") == kFalse)
-        return fail(
-            messages, exitcode::kNotFound,
-            "No saved project in " + utf8ToAnsi(host.toHostPath(root)) + " (mainsettings.cfg is missing).");
-    const WorkingSetChoice choice =
-        chooseWorkingSet(root, options.edition, options.version,
-                         [&](const std::string& f) { return folderExists(host, f) == kTrue; });
-    if (!choice.folder)
-        return fail(messages, exitcode::kNotFound,
-                    "The project in " + utf8ToAnsi(host.toHostPath(root)) +
-                        " has no working set for the edition \"" + options.edition + "\" and the version \"" +
-                        options.version + "\".");
+    const WorkingSetChoice choice = findWorkingSet(host, options, messages);
+    if (!choice.folder) return {exitcode::kNotFound, {}};
 
     MemoryProjectFields fields(&host);
     EditorContext context{host, dialogs, fields, {}};
