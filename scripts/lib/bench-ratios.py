@@ -5,7 +5,9 @@ crc32_CalculateBytes_zlib/65536 is the reference of crc32_CalculateBytes/65536. 
 named after ours and the argument (crc32_CalculateBytes_64KiB); a reference other than zlib adds
 its name. An argument of 0 adds nothing to the name. Benchmarks that count items instead of bytes
 (project_save/100000 against project_save_listing/100000, items being files) compare items per
-second and keep the count as it stands in the name. The figures come first, the ratio lines last.
+second and keep the count as it stands in the name. A whole build against the archiver's own work
+(build_package/100000 against build_package_archiver/100000) can reach 1 at best: the ratio is the
+archiver's share of the build. The figures come first, the ratio lines last.
 """
 import json
 import sys
