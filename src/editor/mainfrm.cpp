@@ -63,7 +63,7 @@ void mainfrm::fillLists() {
     for (const char* version : {"Windows 2000", "Windows XP", "Windows Vista", "Windows 7"})
         ui_->Combo4->addItem(QString::fromLatin1(version));
     ui_->Combo4->setCurrentIndex(1);
-    vars::compressionLevel = "5";
+    vars::compressionLevel = 5;
     for (const char* root : {"HKLM", "HKCU"}) ui_->Combo2->addItem(QString::fromLatin1(root));
     ui_->Combo2->setCurrentIndex(0);
     for (const char* place : {"LOCAL\\", "ROAMING\\", "ALL\\"})
