@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTabBar>
+#include <QTimer>
 
 #include "core/vars.h"
 #include "editor/FormText.h"
@@ -19,6 +20,12 @@ mainfrm::mainfrm(mainfrmContext context, QWidget* parent)
     shade->setObjectName(QStringLiteral("shade"));
     shade->setAttribute(Qt::WA_TransparentForMouseEvents);
     shade->lower();
+    // The packing loop's timers are made stopped; only the loop itself starts them.
+    Timer3 = new QTimer(this);
+    Timer3->setInterval(50);
+    Timer2 = new QTimer(this);
+    Timer2->setInterval(2000);
+    connect(Timer3, &QTimer::timeout, this, &mainfrm::Timer3_Timer);
     connectShell();
     connectFieldRules();
     connectDependentChecks();
