@@ -48,10 +48,20 @@ TEST_F(PackageDay, TheChecksLeadToTheDialogAndAFailedBuildLeavesTheEditorUsableW
     EXPECT_EQ(packageName.cursorPosition(), 5);
     EXPECT_EQ(windows->packageDialog(), nullptr);
 
-    // Mended, the click opens the dialog over the editor; the private 7-Zip is the only choice.
+    // Without an install path the installer page shows, with the list's first entry chosen.
     typeInEditor("Text8", "myapp-%version.exe");
+    auto& installPath = in<QComboBox>(editor(), "Combo5");
+    installPath.setEditText("");
     clickPackageIt();
-    EXPECT_EQ(dialogs.taskDialogs.size(), 1u);
+    ASSERT_EQ(dialogs.taskDialogs.size(), 2u);
+    EXPECT_EQ(dialogs.taskDialogs[1].instruction, "Default install path not defined!");
+    EXPECT_EQ(editor().shownPage(), 2);
+    EXPECT_EQ(installPath.currentText().toStdString(), "<>");
+    EXPECT_TRUE(editor().focusWidget() == &installPath || editor().focusWidget() == installPath.lineEdit());
+
+    // Mended, the click opens the dialog over the editor; the private 7-Zip is the only choice.
+    clickPackageIt();
+    EXPECT_EQ(dialogs.taskDialogs.size(), 2u);
     LetsPackage* dialog = windows->packageDialog();
     ASSERT_NE(dialog, nullptr);
     EXPECT_TRUE(dialog->isVisible());
@@ -72,7 +82,8 @@ TEST_F(PackageDay, TheChecksLeadToTheDialogAndAFailedBuildLeavesTheEditorUsableW
     QObject::connect(&watcher, &QTimer::timeout, [&] {
         auto* progress = editor().findChild<QWidget*>(QStringLiteral("packaging"));
         if (progress == nullptr || !progress->isVisible()) return;
-        editorDisabled = !editor().isEnabled() && progress->isEnabled();
+        // The dialog's button cannot start a second build inside this one.
+        editorDisabled = !editor().isEnabled() && !dialog->isEnabled() && progress->isEnabled();
         closeRefused = !progress->close() && progress->isVisible();
     });
     watcher.start(0);
@@ -80,7 +91,7 @@ TEST_F(PackageDay, TheChecksLeadToTheDialogAndAFailedBuildLeavesTheEditorUsableW
     watcher.stop();
     letEventsRun();
 
-    EXPECT_TRUE(editorDisabled) << "the progress window stands alone while the build runs";
+    EXPECT_TRUE(editorDisabled) << "the progress window is the only one usable while the build runs";
     EXPECT_TRUE(closeRefused);
     ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
     const std::string told = dialogs.messageBoxes[0].text;
