@@ -12,8 +12,12 @@
 
 #include "UserDay.h"
 #include "builder/window/LetsPackage.h"
+#include "builder/window/packaging.h"
+#include "core/RegistryAPI.h"
+#include "core/commonFunctions.h"
 #include "editor/mainfrm.h"
 #include "image/widget/aicAlphaImage.h"
+#include "ui_packaging.h"
 
 namespace orvanta::testing {
 namespace {
@@ -24,6 +28,10 @@ protected:
         UserDay::SetUp();
         box.writeFile("app\\i\\check.png", "check");
         box.writeFile("app\\i\\ok.png", "ok");
+        // The private 7-Zip is the tests' recording archiver.
+        std::string archiver = box.programFolder() + "\\fakearchiver";
+        if (fileExists(box.host(), archiver) == kFalse) archiver += ".exe";
+        ASSERT_TRUE(box.host().copyFile(archiver, box.applicationFolder() + "\\7z\\7z.exe"));
         startProgram();
         createProject();
         fillEditor();
@@ -105,10 +113,30 @@ TEST_F(PackageDay, TheChecksLeadToTheDialogAndAFailedBuildLeavesTheEditorUsableW
     EXPECT_NE(std::find(settings.begin(), settings.end(), "http://changed.example"), settings.end())
         << "the build's save stays";
 
-    // The program goes on: the next click opens the dialog again.
+    // The program goes on. With the stub back the next build makes the package; the user unticks
+    // the opening of the folder while it runs, and the build reads the box at its end.
+    box.writeFile("app\\data\\package2", "stub");
     clickPackageIt();
-    ASSERT_NE(windows->packageDialog(), nullptr);
-    EXPECT_TRUE(windows->packageDialog()->isVisible());
+    dialog = windows->packageDialog();
+    ASSERT_NE(dialog, nullptr);
+    bool dialogHidden = false;
+    QObject::connect(&watcher, &QTimer::timeout, [&] {
+        auto* progress = editor().findChild<packaging*>(QStringLiteral("packaging"));
+        if (progress == nullptr || !progress->isVisible()) return;
+        dialogHidden = dialogHidden || !dialog->isVisible();
+        if (progress->openFolderWhenDone()) progress->controls().Check1->click();
+    });
+    watcher.start(0);
+    in<QPushButton>(*dialog, "Command1").click();
+    watcher.stop();
+    letEventsRun();
+    EXPECT_EQ(dialogs.messageBoxes.size(), 1u) << "a build that succeeds says nothing";
+    EXPECT_TRUE(dialogHidden);
+    EXPECT_TRUE(box.exists(rel("compiled\\myapp-2.5.exe")));
+    EXPECT_TRUE(editor().isEnabled());
+    EXPECT_EQ(windows->packageDialog(), nullptr);
+    RegistryAPI registry(box.host());
+    EXPECT_EQ(registry.readSettingNumber("HKCU\\Software\\Orvanta\\Settings", "OpenCompiled", 1), 0);
 }
 
 }  // namespace
