@@ -70,6 +70,8 @@ download_source() {
         fail "could not download the source package $source_package (network or apt sources?)"
     rm -rf "$cache/download"
     mv "$cache/download.partial" "$cache/download"
+    # The package indexes were only needed to find the source.
+    rm -rf "$apt_dir"
 }
 
 unpack_and_patch() {
