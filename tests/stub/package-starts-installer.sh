@@ -50,13 +50,13 @@ cat "$bin/data/package2" "$archive" >"$package"
 export WINEPREFIX="$work/wineprefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 if [ ! -f "$WINEPREFIX/system.reg" ]; then
     wineboot --init >/dev/null 2>&1 || true
-    wineserver --wait || true
+    timeout 60 wineserver --wait || true
 fi
 report="$run/report.txt"
 status=0
 (cd "$run" && ORVANTA_STANDIN_REPORT="$(windows_path "$report")" timeout 120 wine "$package" first "second arg") \
     >"$run/wine.log" 2>&1 || status=$?
-wineserver --wait || true
+timeout 60 wineserver --wait || true
 [ "$status" -eq 0 ] || fail "the package exited with $status"
 [ ! -e "$mark" ] || fail "cleanup.bat ran"
 [ -f "$report" ] || { echo "FAIL: install.exe wrote no report; see $run/wine.log" >&2; exit 1; }
