@@ -25,6 +25,7 @@ public:
     void focus(ControlName control, Caret caret) override {
         QWidget* field = fields_.find(control);
         if (field == nullptr) return;
+        showPageHolding(*field);
         if (auto* list = qobject_cast<QComboBox*>(field); list != nullptr && caret == Caret::FirstListEntry)
             list->setCurrentIndex(0);
         if (auto* box = qobject_cast<QLineEdit*>(field); box != nullptr)
@@ -33,6 +34,16 @@ public:
     }
 
 private:
+    // A field is only reached on its own page: "Main executable name:" is on the installer's page,
+    // where the check's page would leave it out of sight.
+    void showPageHolding(const QWidget& field) {
+        Ui::mainfrm& ui = window_.controls();
+        const QWidget* pages[] = {ui.Picture1, ui.Picture2, ui.Picture3};
+        for (int page = 1; page <= 3; ++page)
+            if (pages[page - 1]->isAncestorOf(&field) && !pages[page - 1]->isVisible())
+                window_.showPage(page);
+    }
+
     mainfrm& window_;
     mainfrmFields& fields_;
 };

@@ -56,8 +56,22 @@ TEST_F(PackageDay, TheChecksLeadToTheDialogAndAFailedBuildLeavesTheEditorUsableW
     EXPECT_EQ(packageName.cursorPosition(), 5);
     EXPECT_EQ(windows->packageDialog(), nullptr);
 
-    // Without an install path the installer page shows, with the list's first entry chosen.
+    // The main executable's field stands on the installer page, which shows to let the user mend it.
     typeInEditor("Text8", "myapp-%version.exe");
+    auto& mainExecutable = in<QLineEdit>(editor(), "Text21");
+    const QString chosen = mainExecutable.text();
+    editor().showPage(1);
+    mainExecutable.setText(".exe");
+    clickPackageIt();
+    ASSERT_EQ(dialogs.taskDialogs.size(), 2u);
+    EXPECT_EQ(dialogs.taskDialogs[1].instruction, "Missing executable name");
+    EXPECT_EQ(editor().shownPage(), 2);
+    EXPECT_EQ(editor().focusWidget(), &mainExecutable);
+    EXPECT_EQ(mainExecutable.cursorPosition(), 0);
+    mainExecutable.setText(chosen);
+    dialogs.taskDialogs.pop_back();
+
+    // Without an install path the installer page shows, with the list's first entry chosen.
     auto& installPath = in<QComboBox>(editor(), "Combo5");
     installPath.setEditText("");
     clickPackageIt();
