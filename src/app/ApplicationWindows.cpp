@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QLabel>
 
+#include "builder/PackageExe.h"
+#include "builder/window/LetsPackage.h"
 #include "controls/QtText.h"
 #include "core/vars.h"
 #include "editor/editionsfrm.h"
@@ -32,6 +34,10 @@ start* ApplicationWindows::startWindow() const {
 
 mainfrm* ApplicationWindows::editorWindow() const {
     return editor_;
+}
+
+LetsPackage* ApplicationWindows::packageDialog() const {
+    return letsPackage_;
 }
 
 MainHandOver ApplicationWindows::handOver() {
@@ -75,6 +81,7 @@ mainfrm& ApplicationWindows::ensureEditor() {
     context.showEditions = [this] { showEditions(); };
     context.showStart = [this] { showStart(); };
     context.unloadStart = [this] { unloadStart(); };
+    context.showLetsPackage = [this] { showLetsPackage(); };
     editor_ = new mainfrm(context);
     editor_->setAttribute(Qt::WA_DeleteOnClose);
     fields_ = std::make_unique<mainfrmFields>(*editor_,
@@ -176,6 +183,22 @@ void ApplicationWindows::showEditions() {
         [this](std::string edition, std::string version) { switchWorkingSet(edition, version); }};
     editionsfrm window(host_, dialogs_, std::move(context), &editor);
     window.exec();
+}
+
+// One package dialog at a time, without modality, owned by the editor.
+void ApplicationWindows::showLetsPackage() {
+    mainfrm& editor = ensureEditor();
+    if (letsPackage_ == nullptr) {
+        LetsPackageContext context{host_, dialogs_,
+                                   [this](const BuildSetup& setup, BuildProgress& progress) {
+                                       EditorContext building = editorContext();
+                                       packageexe(building, setup, progress, "\\files");
+                                   },
+                                   &editor.packagerItemIndex};
+        letsPackage_ = new LetsPackage(std::move(context), &editor);
+    }
+    letsPackage_->show();
+    letsPackage_->raise();
 }
 
 void ApplicationWindows::switchWorkingSet(std::string edition, std::string version) {

@@ -15,6 +15,7 @@
 
 namespace orvanta {
 
+class LetsPackage;
 class mainfrm;
 class mainfrmFields;
 class start;
@@ -29,6 +30,7 @@ public:
     start* startWindow() const;
     mainfrm* editorWindow() const;
     mainfrmFields* fields() const { return fields_.get(); }
+    LetsPackage* packageDialog() const;
 
     void beginNewProject(const std::string& name, const std::string& author,
                          const std::string& projectRoot) override;
@@ -47,6 +49,7 @@ private:
     void unloadEditor();
     void showPackages();
     void showEditions();
+    void showLetsPackage();
     void showStatusOnStart(const std::string& text);
     void switchWorkingSet(std::string edition, std::string version);
     // The caption names the project, whether it was made, opened or switched to another working set.
@@ -56,6 +59,7 @@ private:
     Dialogs& dialogs_;
     QPointer<start> start_;
     QPointer<mainfrm> editor_;
+    QPointer<LetsPackage> letsPackage_;
     std::unique_ptr<mainfrmFields> fields_;
 };
 

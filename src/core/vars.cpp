@@ -8,7 +8,7 @@ void reset() {
     compressorChoice.clear();
     rarFolder.clear();
     sevenZipFolder.clear();
-    compressionLevel.clear();
+    compressionLevel = 0;
     finalPackageFile.clear();
     abortWalks = false;
 }

@@ -11,7 +11,7 @@ inline std::string settingsRootKey;   // "HKCU\Software\Orvanta"
 inline std::string compressorChoice;  // "7zip", or empty when no archiver was found
 inline std::string rarFolder;         // with trailing backslash, or empty
 inline std::string sevenZipFolder;    // with trailing backslash, or empty
-inline std::string compressionLevel;  // set by the package dialog
+inline int compressionLevel = 0;  // 0 to 5; the editor's load sets 5, the package dialog the user's choice
 inline std::string finalPackageFile;  // set by the saver
 inline bool abortWalks = false;       // stops the recursive folder walks early
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTabBar>
+#include <QTimer>
 
 #include "core/vars.h"
 #include "editor/FormText.h"
@@ -19,6 +20,12 @@ mainfrm::mainfrm(mainfrmContext context, QWidget* parent)
     shade->setObjectName(QStringLiteral("shade"));
     shade->setAttribute(Qt::WA_TransparentForMouseEvents);
     shade->lower();
+    // The packing loop's timers are made stopped; only the loop itself starts them.
+    Timer3 = new QTimer(this);
+    Timer3->setInterval(50);
+    Timer2 = new QTimer(this);
+    Timer2->setInterval(2000);
+    connect(Timer3, &QTimer::timeout, this, &mainfrm::Timer3_Timer);
     connectShell();
     connectFieldRules();
     connectDependentChecks();
@@ -63,7 +70,7 @@ void mainfrm::fillLists() {
     for (const char* version : {"Windows 2000", "Windows XP", "Windows Vista", "Windows 7"})
         ui_->Combo4->addItem(QString::fromLatin1(version));
     ui_->Combo4->setCurrentIndex(1);
-    vars::compressionLevel = "5";
+    vars::compressionLevel = 5;
     for (const char* root : {"HKLM", "HKCU"}) ui_->Combo2->addItem(QString::fromLatin1(root));
     ui_->Combo2->setCurrentIndex(0);
     for (const char* place : {"LOCAL\\", "ROAMING\\", "ALL\\"})

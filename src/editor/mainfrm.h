@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "builder/PerEntryPacker.h"
 #include "core/Dialogs.h"
 #include "editor/settingsSetsfrm.h"
 #include "platform/Host.h"
@@ -23,6 +24,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTabBar;
+class QTimer;
 
 namespace Ui {
 class mainfrm;
@@ -47,9 +49,10 @@ struct mainfrmContext {
     std::function<void()> unloadStart;         // after leaving any other way: the program ends
     std::function<void()> showBackgrounds;     // Command1, the backgrounds manager
     std::function<void()> showInstallPreview;  // the simulator; without it `pre` stays disabled
+    std::function<void()> showLetsPackage;     // the package dialog, once the checks of `packageit` pass
 };
 
-class mainfrm : public QWidget {
+class mainfrm : public QWidget, public PackerTimers {
     Q_OBJECT
 public:
     explicit mainfrm(mainfrmContext context, QWidget* parent = nullptr);
@@ -61,6 +64,11 @@ public:
     std::array<aicAlphaImage*, 2> noway{};    // placeholders: 0 of the preview, 1 of the logo
     aicAlphaImage* shade = nullptr;           // the highlight behind the image buttons
     int packagerItemIndex = 0;                // kept here for the packing loop
+    QTimer* Timer3 = nullptr;                 // the packing loop's watch on its batch file, 50 ms
+    QTimer* Timer2 = nullptr;                 // started at the loop's end, 2000 ms, no action
+
+    void setTimer3Enabled(bool enabled) override;
+    void setTimer2Enabled(bool enabled) override;
 
     // ---- The shell
     void appname_updater();
@@ -81,6 +89,8 @@ public:
 
 public slots:
     void TabStrip1_Click();
+    void packageit_Click();
+    void Timer3_Timer();
     void saver_Click();
     void pre_Click();
     void filesfolder_Click();

@@ -28,8 +28,7 @@ void mainfrm::connectShell() {
     connect(strip, &QTabBar::currentChanged, this, &mainfrm::TabStrip1_Click);
     connect(strip, &QTabBar::tabBarClicked, this, &mainfrm::TabStrip1_Click);
     connect(strip, &QTabBar::tabBarDoubleClicked, this, &mainfrm::TabStrip1_Click);
-    connectImageButton(*ui_->packageit, "Package it!",
-                       (std::string("Creates the final package all-in-one file.") + kLaterVersion).c_str());
+    connectImageButton(*ui_->packageit, "Package it!", "Creates the final package all-in-one file.");
     connectImageButton(*ui_->saver, "Save project", "Saves every setting except packages and settings set");
     const std::string simulate =
         "Attention: The project must be saved before the simulation starts. This simulation may not reflect "
@@ -39,8 +38,8 @@ void mainfrm::connectShell() {
     for (aicAlphaImage* files : {ui_->filesfolder, ui_->logo2})
         connectImageButton(*files, "Open application files folder",
                            "All of your application files must me copied to this folder.");
-    ui_->packageit->setEnabled(false);
     ui_->pre->setEnabled(static_cast<bool>(context_.showInstallPreview));
+    connect(ui_->packageit, &aicAlphaImage::Click, this, &mainfrm::packageit_Click);
     connect(ui_->saver, &aicAlphaImage::Click, this, &mainfrm::saver_Click);
     connect(ui_->pre, &aicAlphaImage::Click, this, &mainfrm::pre_Click);
     connect(ui_->filesfolder, &aicAlphaImage::Click, this, &mainfrm::filesfolder_Click);
@@ -61,7 +60,6 @@ void mainfrm::drawPictures() {
     ui_->pre->LoadImage_FromHandle(buttonPicture(ButtonFace::Simulate, size));
     ui_->filesfolder->LoadImage_FromHandle(buttonPicture(ButtonFace::Folder, size));
     // A disabled button is drawn in grey, so that it does not offer a click it cannot take.
-    ui_->packageit->setgrayScale(1);
     if (!context_.showInstallPreview) ui_->pre->setgrayScale(1);
     const char* titles[][2] = {{"General", "Application, graphics and licences"},
                                {"Installer", "What the installer asks and does"},

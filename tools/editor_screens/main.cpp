@@ -1,9 +1,11 @@
-// Renders each page of the editor window into PNG files in the folder given as the argument, with
-// a small project filled in so that lists and fields show what they hold.
+// Renders each page of the editor window, and the package dialog and the progress window of a
+// build over it, into PNG files in the folder given as the argument, with a small project filled
+// in so that lists and fields show what they hold.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -11,6 +13,8 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "builder/window/LetsPackage.h"
+#include "builder/window/packaging.h"
 #include "controls/QtDialogs.h"
 #include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
@@ -65,6 +69,26 @@ void renderEditions(orvanta::Host& host, orvanta::Dialogs& dialogs, const QStrin
     if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
 }
 
+void save(QWidget& window, const QString& file) {
+    window.show();
+    QApplication::processEvents();
+    if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
+}
+
+// The package dialog as a machine with the private 7-Zip shows it, then the progress window
+// halfway through a build.
+void renderBuild(orvanta::Host& host, orvanta::Dialogs& dialogs, orvanta::mainfrm& editor,
+                 const QString& folder) {
+    using namespace orvanta;
+    LetsPackage dialog(LetsPackageContext{host, dialogs, {}, nullptr}, &editor);
+    save(dialog, folder + QStringLiteral("/LetsPackage.png"));
+    packaging progress(host, dialogs, &editor, &dialog);
+    progress.show();
+    progress.setValue(35);
+    progress.setCaption("Packaging setup files...");
+    save(progress, folder + QStringLiteral("/packaging.png"));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -74,6 +98,13 @@ int main(int argc, char** argv) {
     QTemporaryDir data;
     HostConfig config;
     config.dataFolder = data.path().toStdString();
+    // A program folder with the private 7-Zip, so that the package dialog has an archiver to offer.
+    QDir().mkpath(data.path() + QStringLiteral("/app/7z"));
+    QFile sevenZip(data.path() + QStringLiteral("/app/7z/7z.exe"));
+    sevenZip.open(QIODevice::WriteOnly);
+    sevenZip.close();
+    config.applicationFolder =
+        createHost(config)->toWindowsPath((data.path() + QStringLiteral("/app")).toStdString());
     const std::unique_ptr<Host> host = createHost(config);
     cCrossComm::instance().setHost(host.get());
     QtDialogs dialogs(*host);
@@ -101,5 +132,6 @@ int main(int argc, char** argv) {
         if (!window.grab().save(file)) qWarning("could not write %s", qPrintable(file));
     }
     renderEditions(*host, dialogs, data.path(), folder + QStringLiteral("/editionsfrm.png"));
+    renderBuild(*host, dialogs, window, folder);
     return 0;
 }

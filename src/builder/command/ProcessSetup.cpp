@@ -35,7 +35,7 @@ ProcessSetup setUpProcess(Host& host, Dialogs& dialogs, const BuildOptions& opti
     build.compressorChoice = options.compressor;
     build.compressionLevel = options.level;
     vars::compressorChoice = options.compressor;
-    vars::compressionLevel = std::to_string(options.level);
+    vars::compressionLevel = options.level;
     if (options.compressor == "winrar") {
         build.rarFolder = rarFolderOnPath(host);
         if (build.rarFolder.empty()) setup.error = "WinRAR's rar was not found on the PATH.";
