@@ -32,19 +32,24 @@ package="$project/compiled/Demo Setup 1.0.exe"
 build() { "$bin/orvanta-build" "$project" "$@" >"$work/out" 2>"$work/err"; }
 is_program() { [ "$(head -c 2 "$1")" = MZ ]; }
 
-# Paths of the archive's entries, with "/" for folders; 7-Zip lists folders and empty files
-# first, so the order of adding shows in the entries that hold data, listed apart after "--".
+# Paths of the archive's entries, with "/" for folders. 7-Zip lists folders and empty files first
+# and keeps executables (packed through its BCJ filter) in blocks at the end, so the order of
+# adding shows in the other entries that hold data; the three groups are listed apart.
 listing() {
     7z l -slt "$1" | awk -F' = ' '
         /^----------/ { body = 1 }
         body && /^Path = / { path = $2 }
         body && /^Attributes = / { folder = substr($2, 1, 1) == "D" }
         body && /^Size = / { size = $2 }
+        body && /^Method = / { program = $2 ~ /^BCJ/ }
         body && /^$/ && path != "" {
-            if (folder) dirs = dirs path "/\n"; else if (size == 0) empty = empty path "\n"; else data = data path "\n"
-            path = ""
+            if (folder) dirs = dirs path "/\n"
+            else if (size == 0) empty = empty path "\n"
+            else if (program) programs = programs path "\n"
+            else data = data path "\n"
+            path = ""; program = 0
         }
-        END { printf "%s%s--\n%s", dirs, empty, data }'
+        END { printf "%s%s--\n%s--\n%s", dirs, empty, data, programs }'
 }
 
 # ---- 7-Zip: every setup file that exists, in the order of its list, then the application files.
@@ -74,16 +79,17 @@ uninstallIntro.cfg
 uninstallEnd.cfg
 ok.png
 check.png
-install.exe
 install.exe.manifest
-uninstall.exe
 cleanup.bat
 fonts.cfg
 files/bin/data.bin
 files/demo.exe
 files/readme.txt
 packages/extra.txt
-fonts/demo.ttf" "$(listing "$package")"
+fonts/demo.ttf
+--
+install.exe
+uninstall.exe" "$(listing "$package")"
 expect "what the 7-Zip build leaves" "Demo Setup 1.0.exe" "$(ls "$project/compiled")"
 [ ! -e "$project/install.exe" ] || fail "the staged install.exe was left in the project"
 grep -q "75% Cleaning temporary files..." "$work/err" || fail "plain progress lines: $(cat "$work/err")"
@@ -170,21 +176,25 @@ if is_program "$bin/data/install" && is_program "$bin/data/package2"; then
     export WINEPREFIX=$work/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
     wineboot --init >/dev/null 2>&1
     report=$work/report.txt
+    [ -n "$(command -v wine)" ] || fail "wine is not installed"
     ORVANTA_STANDIN_REPORT="Z:${report//\//\\}" wine "$package" /S "two words" >/dev/null 2>&1
     wineserver --wait
     [ -f "$report" ] || fail "the package did not start install.exe under wine"
-    for argument in /S "two words"; do
-        grep -qF -- "$argument" "$report" || fail "install.exe did not get the argument $argument"
-    done
-    # Each file of the archive, by its last name, with its size and CRC-32 on one line.
-    (cd "$project" && ls ./*hsh ./*.cfg ok.png check.png install.exe.manifest cleanup.bat &&
-        find files packages settingsset fonts -type f) | while read -r file; do
-        size=$(stat -c %s "$project/$file")
-        crc=$(gzip -c <"$project/$file" | tail -c 8 | od -An -tx4 -N4 | tr -d ' ')
-        grep -iF "$crc" "$report" | grep -F "$(basename "$file")" | grep -qw "$size" ||
-            echo "$file ($size bytes, CRC $crc) is not in the installer's report"
-    done >"$work/missing"
-    [ -s "$work/missing" ] && fail "$(cat "$work/missing")"
+    # Every file of the archive, byte for byte, with its size and CRC-32 as the stand-in lists them;
+    # the signed programs as the package holds them.
+    report_line() { # NAME < bytes
+        local bytes=$work/bytes
+        cat >"$bytes"
+        echo "file $(stat -c %s "$bytes") $(gzip -c <"$bytes" | tail -c 8 | od -An -tx4 -N4 | tr -d ' ') ${1//\//\\}"
+    }
+    expected=$(printf 'argument %s\n' /S "two words"
+        for program in install.exe uninstall.exe; do 7z e -so "$package" $program | report_line $program; done
+        cd "$project" && { ls ./*hsh ./*.cfg ok.png check.png install.exe.manifest cleanup.bat
+            find files packages settingsset fonts -type f; } | while read -r file; do
+            report_line "${file#./}" <"$file"
+        done)
+    missing=$(grep -vxFf <(tr -d '\r' <"$report") <<<"$expected")
+    [ -z "$missing" ] || fail "not in the installer's report: $missing"
 else
     echo "the stubs beside the program are stand-ins: signing with osslsigncode and wine skipped"
 fi
