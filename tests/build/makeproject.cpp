@@ -1,6 +1,6 @@
 // Makes the project that the end-to-end build tests pack: "Demo" in the workspace given as a host
 // path, saved the way the editor saves it, with application files in nested folders, a font, an
-// optional package, a root any-file and bytes of every value.
+// optional package, a root any-file, bytes of every value, and an edition.
 #include <cstdio>
 #include <string>
 
@@ -10,6 +10,7 @@
 #include "project/MemoryProjectFields.h"
 #include "project/ProjectIndex.h"
 #include "project/ProjectSaver.h"
+#include "project/WorkingSetIndex.h"
 #include "support/ScriptedDialogs.h"
 
 namespace {
@@ -81,6 +82,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "makeproject: the project could not be saved\n");
         return 1;
     }
+    // An edition "Pro" with an application of its own.
+    createWorkingSet(*host, {root, "Demo", "", "", "cleanup.bat"}, "Pro", "");
+    host->createFolder(root + "\\editions\\Pro\\files");
+    if (!write(*host, root + "\\editions\\Pro\\files\\demo.exe", "the Pro application")) return 1;
     std::printf("%s\n", host->toHostPath(root).c_str());
     return 0;
 }

@@ -94,6 +94,12 @@ expect "what the 7-Zip build leaves" "Demo Setup 1.0.exe" "$(ls "$project/compil
 [ ! -e "$project/install.exe" ] || fail "the staged install.exe was left in the project"
 grep -q "75% Cleaning temporary files..." "$work/err" || fail "plain progress lines: $(cat "$work/err")"
 
+# ---- An edition: its own working set and its own package.
+build --edition Pro || fail "edition build: exit $? $(cat "$work/err")"
+pro="$project/editions/Pro/compiled/Demo Setup 1.0.exe"
+expect "the edition's package" "$pro" "$(cat "$work/out")"
+expect "the edition's application" "the Pro application" "$(7z e -so "$pro" files/demo.exe 2>/dev/null)"
+
 # ---- A failed check: its message, its exit status, nothing built.
 rm -f "$package"
 sed -i '2s/.*/\r/' "$project/mainsettings.cfg"
