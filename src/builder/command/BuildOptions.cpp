@@ -93,9 +93,9 @@ Options:
                         the archiver (default 7zip: the private copy beside the program, else
                         7z on PATH); winrar takes rar from PATH
   --level 0-5           compression level of the application files, WinRAR only (default 5)
-  --verbose             run the archiver's pass over the application files in a console
-                        window of its own on Windows, as the package dialog's "Use verbose
-                        mode" does (elsewhere the archiver always prints to standard error)
+  --verbose             let the archiver's output through to standard error (its warnings and
+                        errors always are); on Windows the pass over the application files also
+                        runs in a console window of its own, as "Use verbose mode" does
   --reproducible        give every staged and archived file the time SOURCE_DATE_EPOCH (or,
                         without it, the time of the project's last save) and the integrity
                         record a fixed name, so two builds of one project give the same bytes

@@ -1,6 +1,4 @@
 // orvanta-build: the final package of a saved project, built without windows (for CI).
-#include <unistd.h>
-
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -9,6 +7,7 @@
 #include "builder/command/ConsoleDialogs.h"
 #include "builder/command/ExitCodes.h"
 #include "builder/command/HeadlessBuild.h"
+#include "builder/command/ProcessStreams.h"
 #include "core/RuntimeError.h"
 
 int main(int argc, char** argv) {
@@ -22,10 +21,7 @@ int main(int argc, char** argv) {
         std::fputs(buildHelpText().c_str(), stdout);
         return exitcode::kBuilt;
     }
-    // The archivers print on the standard output they inherit; ours carries only the package's
-    // path, so a script can take it whole.
-    std::FILE* packageOutput = fdopen(dup(fileno(stdout)), "w");
-    dup2(fileno(stderr), fileno(stdout));
+    std::FILE* packagePath = setAsideStandardOutput(parsed.options->verbose);
     ConsoleOutput messages(stderr);
     ConsoleDialogs dialogs(messages);
     HostConfig config;
@@ -33,8 +29,7 @@ int main(int argc, char** argv) {
     try {
         const std::unique_ptr<Host> host = createHost(config);
         const HeadlessResult result = runHeadlessBuild(*host, dialogs, messages, *parsed.options);
-        if (!result.package.empty() && packageOutput)
-            std::fprintf(packageOutput, "%s\n", result.package.c_str());
+        if (!result.package.empty()) std::fprintf(packagePath, "%s\n", result.package.c_str());
         return result.exitCode;
     } catch (const RuntimeError& error) {
         messages.line("Run-time error " + std::to_string(error.number()) + ": " + error.description());
