@@ -88,10 +88,11 @@ The path of the final package is printed on standard output.
 
 Options:
   --edition NAME        build the working set of this edition (default: the project root)
-  --version NAME        with --edition: the edition of this version
+  --version NAME        with --edition: that edition's working set of this version
   --compressor 7zip|winrar
                         the archiver (default 7zip: the private copy beside the program, else
-                        7z on PATH); winrar takes rar from PATH
+                        7z on PATH); winrar takes rar from PATH (on Windows, from WinRAR's
+                        registration)
   --level 0-5           compression level of the application files, WinRAR only (default 5)
   --verbose             let the archiver's output through to standard error (its warnings and
                         errors always are); on Windows the pass over the application files also
@@ -112,7 +113,7 @@ A progress bar is drawn when standard error is a terminal, plain lines are writt
 Exit status:
   0     the final package was built
   1     the build stopped at a step (the message names the step and the file)
-  2     the command line was refused
+  2     the command line (or SOURCE_DATE_EPOCH) was refused
   3     the program's files, the archiver, the project or its working set was not found
   11-17 a check failed: 11 publisher, 12 package name, 13 main executable, 14 version,
         15 (never: the uninstaller check repairs), 16 package named as the main executable,
