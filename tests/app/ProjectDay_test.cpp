@@ -114,60 +114,23 @@ TEST_F(ProjectDay, ACancelledCopyLeavesAUsableProjectAndSaysWhatWasCopied) {
 TEST_F(ProjectDay, WhatTheUserFilledInIsSavedLineByLine) {
     startProgram();
     createProject();
+    std::vector<std::string> created = lines("mainsettings.cfg");
     fillEditor();
     saveWithTheButton();
     EXPECT_EQ(in<QLabel>(editor(), "controlTips").text().toStdString(), "Project Saved!");
 
-    EXPECT_EQ(lines("mainsettings.cfg"),
-              (std::vector<std::string>{"My App",
-                                        "Ann Author",
-                                        " 1 ",  // start menu shortcut
-                                        " 1 ",  // desktop shortcut, ticked with its "checked"
-                                        "",     // the full licence file has no line
-                                        "Start My App",
-                                        " 1 ",  // startup, ticked with "Required Option"
-                                        " 1 ",
-                                        "http://myapp.example",
-                                        "143",  // the bytes of \files
-                                        " 0 ",
-                                        " 0 ",
-                                        "prog.exe",
-                                        " 1 ",  // no repair
-                                        " 0 ",
-                                        "2.5",
-                                        " 1 ",  // roll effect
-                                        "Allusers ApplicationData\\My App",
-                                        "Windows 7",
-                                        " 0 ",
-                                        " 0 ",
-                                        "Terms",
-                                        "Show terms",
-                                        "REGDEL",
-                                        " 1 ",  // clean it all
-                                        "",
-                                        " 0 ",
-                                        " 1 ",  // desktop shortcut checked
-                                        " 0 ",
-                                        "",  // startup arguments: only the placeholder
-                                        " 0 ",
-                                        "",
-                                        "http://help.example",
-                                        "",
-                                        "myapp-%version.exe",
-                                        "",
-                                        " 1 ",  // required option
-                                        " 0 ",
-                                        " 0 ",
-                                        "No editions",
-                                        " 0 ",
-                                        " 0 ",
-                                        " 0 ",
-                                        "i",
-                                        " 0 ",
-                                        " 0 ",
-                                        " 1 ",  // silent update
-                                        " 1 ",  // restore point
-                                        " 0 "}));
+    // The lines the user changed, over what the new project saved: the desktop shortcut is ticked with
+    // its "checked" (4, 28), startup with "Required Option" (7, 8, 37).
+    for (const std::size_t line : {3u, 4u, 7u, 8u, 14u, 17u, 25u, 28u, 37u, 47u, 48u})
+        created[line - 1] = " 1 ";
+    for (const std::string change :
+         {"6 Start My App", "9 http://myapp.example", "13 prog.exe", "16 2.5",
+          "18 Allusers ApplicationData\\My App", "19 Windows 7", "22 Terms", "23 Show terms", "24 REGDEL",
+          "33 http://help.example", "35 myapp-%version.exe", "44 i"}) {
+        const std::size_t blank = change.find(' ');
+        created[std::stoul(change.substr(0, blank)) - 1] = change.substr(blank + 1);
+    }
+    EXPECT_EQ(lines("mainsettings.cfg"), created);
     EXPECT_EQ(vars::finalPackageFile, "myapp-2.5.exe");
     // The first key and the data folder are the ones the new project offered.
     EXPECT_EQ(bytes("registrylocations.cfg"),
