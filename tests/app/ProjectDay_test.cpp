@@ -17,21 +17,8 @@
 namespace orvanta::testing {
 namespace {
 
-// What the loader brings back differently by design: the button caption (line 23) returns as
-// the window's default, and the full licence file has no line of its own.
-const std::map<std::string, std::string> kNotRestored = {{"licenseButtonCaption", "Read full license"},
-                                                         {"fullLicenseFile", ""}};
-
 class ProjectDay : public UserDay {
 protected:
-    void expectRestored(const Snapshot& saved, const char* how) {
-        const Snapshot now = snapshot();
-        for (const auto& [field, seen] : saved) {
-            const auto exception = kNotRestored.find(field);
-            const std::string expected = exception == kNotRestored.end() ? seen : exception->second;
-            EXPECT_EQ(now.at(field), expected) << field << ", " << how;
-        }
-    }
     int integrityRecords() {
         int count = 0;
         for (const auto& entry : std::filesystem::directory_iterator(box.hostRoot() / "Documents" /

@@ -320,4 +320,14 @@ UserDay::Snapshot UserDay::snapshot() {
     return shown;
 }
 
+void UserDay::expectRestored(const Snapshot& saved, const std::string& how, bool switchedBack) {
+    const Snapshot now = snapshot();
+    for (auto [field, expected] : saved) {
+        if (switchedBack && (field == "files" || field == "folders")) continue;
+        if (!switchedBack && field == "licenseButtonCaption") expected = "Read full license";
+        if (!switchedBack && field == "fullLicenseFile") expected = "";
+        EXPECT_EQ(now.at(field), expected) << field << ", " << how;
+    }
+}
+
 }  // namespace orvanta::testing
