@@ -87,11 +87,10 @@ TEST_F(ProjectDay, ACancelledCopyLeavesAUsableProjectAndSaysWhatWasCopied) {
         if (in<QLabel>(progress, "Label1").text().startsWith(QStringLiteral("64 of")))
             in<QPushButton>(progress, "Command1").click();
     });
-    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
-    EXPECT_EQ(dialogs.messageBoxes[0].text, "The copy was cancelled. 64 of 131 files were copied into\n" +
-                                                root() +
-                                                "\\files\nThe project is saved with them; copy the others "
-                                                "into that folder and save again.");
+    EXPECT_EQ(dialogs.messageTexts(),
+              std::vector<std::string>{"The copy was cancelled. 64 of 131 files were copied into\n" + root() +
+                                       "\\files\nThe project is saved with them; copy the others "
+                                       "into that folder and save again."});
     ASSERT_TRUE(editor().isVisible());
     EXPECT_TRUE(editor().isEnabled());
     EXPECT_EQ(lines("files.cfg").size(), 64u);

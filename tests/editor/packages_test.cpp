@@ -42,7 +42,8 @@ TEST_F(PackagesManager, SavingARefusedLocationGivesTheJointMessageAndWritesNothi
         dialogs.messageBoxes.clear();
         Combo5().setEditText(location);
         button("Command4").click();
-        EXPECT_EQ(messages(), std::vector<std::string>{std::string(kLocationMessage)}) << location;
+        EXPECT_EQ(dialogs.messageTexts(), std::vector<std::string>{std::string(kLocationMessage)})
+            << location;
     }
     EXPECT_EQ(readList(), before);
 }
@@ -168,7 +169,8 @@ TEST_F(PackagesManager, TheThousandAndFirstPackageFitsAndTheNextIsABoundsError) 
 
     fillAddedPackage("over", "<>\\over", "");
     button("Command2").click();
-    EXPECT_EQ(messages(), std::vector<std::string>{"Run-time error '9':\r\n\r\nSubscript out of range"});
+    EXPECT_EQ(dialogs.messageTexts(),
+              std::vector<std::string>{"Run-time error '9':\r\n\r\nSubscript out of range"});
     EXPECT_EQ(readList(), list);
     EXPECT_EQ(List1().ListItemsCount(), 1001);
 }

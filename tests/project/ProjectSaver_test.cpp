@@ -364,11 +364,11 @@ TEST_F(ProjectSaverTest, AHandCopiedFolderWritesOnlyIntoItself) {
     auto editor = freshEditor();
     auto opening = context(*editor);
     ASSERT_EQ(loadProject(opening, copy), LoadOutcome::Loaded);
-    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
-    EXPECT_EQ(dialogs.messageBoxes[0].text, "The folder \"" + copy +
-                                                "\" holds the project \"Demo\", whose own folder is \"" +
-                                                root + "\".\r\nSaving writes only into \"" + copy +
-                                                "\", with the marker file \"Demo.ovproj\" there.");
+    EXPECT_EQ(dialogs.messageTexts(),
+              std::vector<std::string>{"The folder \"" + copy +
+                                       "\" holds the project \"Demo\", whose own folder is \"" + root +
+                                       "\".\r\nSaving writes only into \"" + copy +
+                                       "\", with the marker file \"Demo.ovproj\" there."});
     editor->setText(introText, "the copy's own");
     ASSERT_EQ(save(*editor), SaveOutcome::Saved);
     EXPECT_EQ(Tree::of(original).files, untouched.files);
