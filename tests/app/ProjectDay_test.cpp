@@ -181,11 +181,8 @@ TEST_F(ProjectDay, AFailedOpenSaysWhyAndLeavesTheIndexUsable) {
     chooseProject(broken);
     in<QPushButton>(index(), "Command4").click();
 
-    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
-    EXPECT_EQ(dialogs.messageBoxes[0].text,
-              "mainsettings.cfg file not found. The mainsettings file stores most of the settings of the "
-              "project.");
-    EXPECT_EQ(dialogs.messageBoxes[0].icon, MessageIcon::Critical);
+    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);  // its words are the loader's test
+    EXPECT_EQ(dialogs.messageBoxes[0].text.rfind("mainsettings.cfg file not found.", 0), 0u);
     letEventsRun();
     EXPECT_EQ(windows->editorWindow(), nullptr);
     EXPECT_TRUE(index().isVisible());
