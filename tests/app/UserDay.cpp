@@ -25,6 +25,7 @@
 #include "project/EditorControls.h"
 #include "project/PackageTables.h"
 #include "project/window/start.h"
+#include "support/Split.h"
 
 namespace orvanta::testing {
 
@@ -281,82 +282,28 @@ std::string UserDay::crlf(const std::vector<std::string>& lines) {
 }
 
 UserDay::Snapshot UserDay::snapshot() {
-    using namespace ctrl;
-    static constexpr ControlName kShown[] = {appName,
-                                             appAuthor,
-                                             startMenuShortcut,
-                                             desktopShortcut,
-                                             shortcutTooltip,
-                                             startupOption,
-                                             startupChecked,
-                                             website,
-                                             appSize,
-                                             quickLaunchShortcut,
-                                             quickLaunchChecked,
-                                             mainExecutable,
-                                             noRepair,
-                                             noModify,
-                                             appVersion,
-                                             rollEffect,
-                                             installPath,
-                                             minWindowsVersion,
-                                             authorFolder,
-                                             instantInstall,
-                                             licenseTitle,
-                                             licenseButtonCaption,
-                                             Option1,
-                                             Option2,
-                                             Option3,
-                                             cleanAll,
-                                             anyFile,
-                                             lockInstallPath,
-                                             desktopChecked,
-                                             startMenuChecked,
-                                             startupArguments,
-                                             startupAllUsers,
-                                             supportLink,
-                                             helpLink,
-                                             updateInfoLink,
-                                             finalPackageName,
-                                             shortcutArguments,
-                                             startupRequired,
-                                             appIconOnRootFolder,
-                                             noUninstaller,
-                                             editionName,
-                                             showEditionName,
-                                             justRunMode,
-                                             Option4,
-                                             Option5,
-                                             updateIgnoreLicense,
-                                             updateRunApp,
-                                             updateSilent,
-                                             createRestorePoint,
-                                             introText,
-                                             tipsText,
-                                             uninstallIntroText,
-                                             uninstallEndText,
-                                             resumedLicenseEnabled,
-                                             resumedLicenseText,
-                                             fullLicenseFile,
-                                             registryLocations,
-                                             appDataLocations,
-                                             dependencies,
-                                             fonts,
-                                             files,
-                                             folders,
-                                             workingFolder,
-                                             Check23,
-                                             Check15,
-                                             Check31,
-                                             Check32,
-                                             Text10};
+    // The stored fields and the boxes that rule them.
+    const std::vector<std::string> shownFields = split(
+        "appName appAuthor startMenuShortcut desktopShortcut shortcutTooltip startupOption "
+        "startupChecked website appSize quickLaunchShortcut quickLaunchChecked mainExecutable "
+        "noRepair noModify appVersion rollEffect installPath minWindowsVersion authorFolder "
+        "instantInstall licenseTitle licenseButtonCaption Option1 Option2 Option3 cleanAll anyFile "
+        "lockInstallPath desktopChecked startMenuChecked startupArguments startupAllUsers "
+        "supportLink helpLink updateInfoLink finalPackageName shortcutArguments startupRequired "
+        "appIconOnRootFolder noUninstaller editionName showEditionName justRunMode Option4 Option5 "
+        "updateIgnoreLicense updateRunApp updateSilent createRestorePoint introText tipsText "
+        "uninstallIntroText uninstallEndText resumedLicenseEnabled resumedLicenseText "
+        "fullLicenseFile registryLocations appDataLocations dependencies fonts files folders "
+        "workingFolder Check23 Check15 Check31 Check32 Text10",
+        ' ');
     mainfrmFields& editorFields = fields();
     Snapshot shown;
-    for (const ControlName control : kShown) {
+    for (const std::string& name : shownFields) {
+        const ControlName control{name};
         QWidget* widget = editorFields.find(control);
         std::string seen;
         if (widget == nullptr) {
-            seen = "(missing)";
+            ADD_FAILURE() << "no field " << name;
         } else if (qobject_cast<QAbstractButton*>(widget) != nullptr) {
             seen = std::to_string(editorFields.value(control));
         } else if (qobject_cast<QListWidget*>(widget) != nullptr) {
@@ -371,6 +318,16 @@ UserDay::Snapshot UserDay::snapshot() {
         shown[std::string(control.name)] = seen;
     }
     return shown;
+}
+
+void UserDay::expectRestored(const Snapshot& saved, const std::string& how, bool switchedBack) {
+    const Snapshot now = snapshot();
+    for (auto [field, expected] : saved) {
+        if (switchedBack && (field == "files" || field == "folders")) continue;
+        if (!switchedBack && field == "licenseButtonCaption") expected = "Read full license";
+        if (!switchedBack && field == "fullLicenseFile") expected = "";
+        EXPECT_EQ(now.at(field), expected) << field << ", " << how;
+    }
 }
 
 }  // namespace orvanta::testing

@@ -94,6 +94,11 @@ protected:
     // Every field of the open project as the user sees it: text or value, enabled, placeholder look.
     using Snapshot = std::map<std::string, std::string>;
     Snapshot snapshot();
+    // Compares the fields with a snapshot taken before the project was opened again. An open brings
+    // back the button caption as the window's default and no full licence file, which has no line
+    // of its own; a switch back from an edition keeps them but grows the content lists until the
+    // next save refreshes them.
+    void expectRestored(const Snapshot& saved, const std::string& how, bool switchedBack = false);
 
     Sandbox box;
     ScriptedDialogs dialogs;

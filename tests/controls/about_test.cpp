@@ -11,20 +11,10 @@
 namespace orvanta {
 namespace {
 
-// Keeps what the shell was asked to open instead of opening it.
-class ShellRecordingHost : public testing::FailingHost {
-public:
-    using FailingHost::FailingHost;
-    int shellExecute(const std::string& file, const std::string&, int) override {
-        opened.push_back(file);
-        return 42;
-    }
-    std::vector<std::string> opened;
-};
-
 TEST(about, ShowsTheVersionAndOpensTheShippedFiles) {
     testing::Sandbox box;
-    ShellRecordingHost host(box.host());
+    testing::FailingHost host(box.host());
+    host.answerShell(42);
     testing::ScriptedDialogs dialogs;
     about window(host, dialogs);
     EXPECT_EQ(window.findChild<QLabel*>("lblName")->text(), "Orvanta");

@@ -29,11 +29,6 @@ protected:
         QEvent event(static_cast<QEvent::Type>(type));
         QCoreApplication::sendEvent(&window, &event);
     }
-    std::vector<std::string> shown() const {
-        std::vector<std::string> texts;
-        for (const auto& box : dialogs.messageBoxes) texts.push_back(box.text);
-        return texts;
-    }
 
     testing::ScriptedDialogs dialogs;
     cSubclass subclass{dialogs, "ctlListView"};
@@ -87,11 +82,11 @@ TEST_F(Subclassing, The33rdMessageOfATableGivesTheOverflowText) {
     for (int message = 1; message <= MSG_ENTRIES; ++message) subclass.sc_AddMsg(&window, 1000 + message);
     EXPECT_TRUE(dialogs.messageBoxes.empty());
     subclass.sc_AddMsg(&window, 2000);
-    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
-    EXPECT_EQ(dialogs.messageBoxes[0].text,
-              "Error in ctlListView.zAddMsg: Message table overflow. Either increase the value of Const "
-              "MSG_ENTRIES or "
-              "use ALL_MESSAGES instead of specific message values");
+    EXPECT_EQ(dialogs.messageTexts(),
+              std::vector<std::string>{
+                  "Error in ctlListView.zAddMsg: Message table overflow. Either increase the value of Const "
+                  "MSG_ENTRIES or "
+                  "use ALL_MESSAGES instead of specific message values"});
 
     // A deleted slot is reused, so the table takes one again after a removal.
     subclass.sc_DelMsg(&window, 1010);
@@ -116,7 +111,7 @@ TEST_F(Subclassing, EveryRefusalShowsItsText) {
         "Error in ctlListView.zMap_hWnd: Window handle isn't subclassed",
         "Error in ctlListView.zDelMsg: Message &H1F not found in table",
     };
-    EXPECT_EQ(shown(), expected);
+    EXPECT_EQ(dialogs.messageTexts(), expected);
 }
 
 TEST_F(Subclassing, ACallbackMayEndItsOwnSubclassingAndADestroyedWindowLeavesNothingBehind) {

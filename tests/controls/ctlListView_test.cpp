@@ -7,8 +7,6 @@
 #include <QTest>
 #include <set>
 
-#include "controls/WordHelpers.h"
-#include "controls/mMsg2String.h"
 #include "support/ScriptedDialogs.h"
 
 namespace orvanta {
@@ -194,16 +192,6 @@ TEST(ListViewBeforeCreation, KeepsSettingsForTheViewAndIgnoresItems) {
     bold.setBold(true);
     list.setFont(bold);
     EXPECT_TRUE(list.hwnd()->font().bold());
-}
-
-TEST(mMsg2String, NamesTheNotificationsAndKeepsTheDoubledColumnClick) {
-    EXPECT_EQ(mMsg2String(-2), "NM_CLICK");
-    EXPECT_EQ(mMsg2String(-12), "NM_CUSTOMDRAW");
-    EXPECT_EQ(mMsg2String(-101), "LVN_ITEMCHANGED");
-    EXPECT_EQ(mMsg2String(-107), "LVN_COLUMNCLICK");
-    EXPECT_EQ(mMsg2String(-108), "LVN_COLUMNCLICK");
-    EXPECT_EQ(mMsg2String(-157), "LVN_GETINFOTIP");
-    EXPECT_EQ(mMsg2String(-111), "");
 }
 
 }  // namespace

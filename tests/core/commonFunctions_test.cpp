@@ -44,15 +44,6 @@ TEST(WindowsVersionName, FollowsTheVersionWords) {
 }
 
 // Says what could not be opened, with the shell's reason, in the system's form of a message.
-class ShellFailureHost : public testing::FailingHost {
-public:
-    ShellFailureHost(Host& inner, int code) : FailingHost(inner), code_(code) {}
-    int shellExecute(const std::string&, const std::string&, int) override { return code_; }
-
-private:
-    int code_;
-};
-
 TEST(ShellOpen, EveryFailureNamesWhatCouldNotBeOpened) {
     EXPECT_EQ(shellErrorText(3), "Caminho n\xE3o encontrado.");
     EXPECT_EQ(shellErrorText(4), "");
@@ -68,7 +59,8 @@ TEST(ShellOpen, EveryFailureNamesWhatCouldNotBeOpened) {
     for (const Row& row : rows) {
         testing::Sandbox box;
         box.config().versionWords = row.words;
-        ShellFailureHost host(box.host(), row.code);
+        testing::FailingHost host(box.host());
+        host.answerShell(row.code);
         testing::ScriptedDialogs dialogs;
         shellOpen(host, dialogs, "C:\\p\\changelog.txt", "");
         const std::string instruction = "Could not open C:\\p\\changelog.txt";
@@ -82,7 +74,8 @@ TEST(ShellOpen, EveryFailureNamesWhatCouldNotBeOpened) {
         }
     }
     testing::Sandbox box;
-    ShellFailureHost opened(box.host(), 42);
+    testing::FailingHost opened(box.host());
+    opened.answerShell(42);
     testing::ScriptedDialogs dialogs;
     shellOpen(opened, dialogs, "https://example.org", "");
     EXPECT_TRUE(dialogs.messageBoxes.empty() && dialogs.taskDialogs.empty());

@@ -21,17 +21,6 @@
 
 namespace orvanta::testing {
 
-// Keeps what the shell was asked to open instead of opening it.
-class ShellRecordingHost : public FailingHost {
-public:
-    using FailingHost::FailingHost;
-    int shellExecute(const std::string& file, const std::string&, int) override {
-        opened.push_back(file);
-        return 42;
-    }
-    std::vector<std::string> opened;
-};
-
 // One package as its seven lines of "packages.cfg".
 inline std::string packageBlock(const std::string& name, const std::string& location,
                                 const std::string& description = "", const std::string& byDefault = "0",
@@ -52,6 +41,7 @@ protected:
         vars::workspaceFolder = box.windowsPath("Documents\\Orvanta");
         box.makeFolder(std::string(kRoot) + "\\packages");
         box.writeFile(std::string(kRoot) + "\\mainsettings.cfg", "Demo\r\n");
+        host.answerShell(42);
     }
     void TearDown() override { vars::reset(); }
 
@@ -93,14 +83,9 @@ protected:
         Combo5().setEditText(location);
         text("Text2").setText(description);
     }
-    std::vector<std::string> messages() const {
-        std::vector<std::string> texts;
-        for (const auto& request : dialogs.messageBoxes) texts.push_back(request.text);
-        return texts;
-    }
 
     Sandbox box;
-    ShellRecordingHost host{box.host()};
+    FailingHost host{box.host()};
     ScriptedDialogs dialogs;
     PackageTables tables;
     std::string working = kRoot;  // the working folder, below the sandbox

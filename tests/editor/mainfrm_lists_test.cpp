@@ -18,30 +18,20 @@ std::vector<std::string> entries(QListWidget& list) {
     return texts;
 }
 
+// The day adds a control and a library; these are the spellings of the extension and the refusal.
 TEST_F(Lists, DependenciesMustLieBelowFilesAndControlsAreMarkedForRegistration) {
-    sandbox.writeFile(projectRelative("files\\grid.ocx"), "x");
     sandbox.writeFile(projectRelative("files\\GRID2.OCX"), "x");
     sandbox.writeFile(projectRelative("files\\odd.Ocx"), "x");
-    sandbox.writeFile(projectRelative("files\\lib\\core.dll"), "x");
     auto& list = get<QListWidget>("List1");
-    for (const char* name : {"grid.ocx", "GRID2.OCX", "odd.Ocx", "lib\\core.dll"}) {
+    for (const char* name : {"GRID2.OCX", "odd.Ocx", "missing.dll"}) {
         window->Command5_Click();
-        EXPECT_FALSE(get<QWidget>("Text30").isHidden());
         EXPECT_TRUE(get<QWidget>("Command5").isHidden());
         setText("Text30", name);
         window->Command46_Click();
     }
-    ASSERT_EQ(entries(list), (std::vector<std::string>{"grid.ocx", "GRID2.OCX", "odd.Ocx", "lib\\core.dll"}));
+    ASSERT_EQ(entries(list), (std::vector<std::string>{"GRID2.OCX", "odd.Ocx"}));
     EXPECT_EQ(list.item(0)->checkState(), Qt::Checked);
-    EXPECT_EQ(list.item(1)->checkState(), Qt::Checked);
-    EXPECT_EQ(list.item(2)->checkState(), Qt::Unchecked);
-    EXPECT_EQ(list.item(3)->checkState(), Qt::Unchecked);
-    EXPECT_TRUE(dialogs.messageBoxes.empty());
-
-    window->Command5_Click();
-    setText("Text30", "missing.dll");
-    window->Command46_Click();
-    EXPECT_EQ(list.count(), 4);
+    EXPECT_EQ(list.item(1)->checkState(), Qt::Unchecked);
     ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
     EXPECT_EQ(dialogs.messageBoxes[0].text,
               "The dependency file with this name was not found on the project files root folder.");
@@ -50,10 +40,10 @@ TEST_F(Lists, DependenciesMustLieBelowFilesAndControlsAreMarkedForRegistration) 
     EXPECT_TRUE(get<QWidget>("Text30").isHidden());
     EXPECT_FALSE(get<QWidget>("Command4").isHidden());
 
-    list.setCurrentRow(1);
+    list.setCurrentRow(0);
     EXPECT_TRUE(enabled("Command4"));
     window->Command4_Click();
-    EXPECT_EQ(entries(list), (std::vector<std::string>{"grid.ocx", "odd.Ocx", "lib\\core.dll"}));
+    EXPECT_EQ(entries(list), (std::vector<std::string>{"odd.Ocx"}));
     EXPECT_FALSE(enabled("Command4"));
 }
 
@@ -64,25 +54,18 @@ TEST_F(Lists, LocationButtonsFollowTheSelectedEntry) {
         setText("Text3", key);
         window->Command2_Click();
     }
-    EXPECT_EQ(entries(list),
-              (std::vector<std::string>{"HKCU\\Software\\A", "HKCU\\Software\\B", "HKCU\\Software\\C"}));
     EXPECT_FALSE(enabled("Command3"));
-
     list.setCurrentRow(0);
     EXPECT_TRUE(enabled("Command3"));
     EXPECT_FALSE(enabled("Command43"));
-    EXPECT_TRUE(enabled("Command42"));
     window->Command42_Click();
-    EXPECT_EQ(entries(list),
-              (std::vector<std::string>{"HKCU\\Software\\B", "HKCU\\Software\\A", "HKCU\\Software\\C"}));
-    EXPECT_EQ(list.currentRow(), 1);
-    EXPECT_TRUE(enabled("Command43"));
     window->Command42_Click();
     EXPECT_EQ(list.currentRow(), 2);
     EXPECT_FALSE(enabled("Command42"));
     window->Command43_Click();
     EXPECT_EQ(entries(list),
               (std::vector<std::string>{"HKCU\\Software\\B", "HKCU\\Software\\A", "HKCU\\Software\\C"}));
+    EXPECT_TRUE(enabled("Command42") && enabled("Command43"));
 
     // Removing selects the entry that moved into the place, or the last one.
     list.setCurrentRow(0);
@@ -92,18 +75,9 @@ TEST_F(Lists, LocationButtonsFollowTheSelectedEntry) {
     window->Command3_Click();
     EXPECT_EQ(fromQString(list.currentItem()->text()), "HKCU\\Software\\A");
     // With a single entry neither up nor down is open.
-    EXPECT_FALSE(enabled("Command43"));
-    EXPECT_FALSE(enabled("Command42"));
+    EXPECT_FALSE(enabled("Command43") || enabled("Command42"));
     window->Command3_Click();
-    EXPECT_EQ(list.count(), 0);
     EXPECT_FALSE(enabled("Command3"));
-}
-
-TEST_F(Lists, AppDataLocationsJoinFolderWordAndTextWithoutChecks) {
-    setText("Text4", "");
-    window->Command18_Click();
-    window->Command18_Click();
-    EXPECT_EQ(entries(get<QListWidget>("List4")), (std::vector<std::string>{"ROAMING\\", "ROAMING\\"}));
 }
 
 TEST_F(Lists, FontScanAddsNewVisibleFontFilesOnlyAndRemovesNothing) {
@@ -130,58 +104,40 @@ TEST_F(Lists, FontScanAddsNewVisibleFontFilesOnlyAndRemovesNothing) {
     EXPECT_EQ(list.count(), 5);
 }
 
-TEST_F(Lists, FilesViewMirrorsTheTopFolderRelativeToIt) {
-    sandbox.writeFile(projectRelative("files\\app.exe"), "x");
-    sandbox.writeFile(projectRelative("files\\lib\\plugins\\p.dll"), "x");
-    // An edition's working set still shows the project's own files.
+// What the lists hold is the project layer's test; here, which folder the window lists.
+TEST_F(Lists, FilesViewListsTheProjectsFilesFolderFromAnyWorkingSet) {
+    sandbox.writeFile(projectRelative("files\\lib\\p.dll"), "x");
     setText("Text2", projectRoot() + "\\editions\\Pro");
     get<QListWidget>("List6").addItem(QStringLiteral("stale.txt"));
     window->Command33_Click();
     window->Command34_Click();
-    std::vector<std::string> files = entries(get<QListWidget>("List6"));
-    std::sort(files.begin(), files.end());
-    EXPECT_EQ(files, (std::vector<std::string>{"app.exe", "lib\\plugins\\p.dll"}));
-    std::vector<std::string> folders = entries(get<QListWidget>("List7"));
-    std::sort(folders.begin(), folders.end());
-    EXPECT_EQ(folders, (std::vector<std::string>{"lib", "lib\\plugins"}));
+    EXPECT_EQ(entries(get<QListWidget>("List6")), std::vector<std::string>{"lib\\p.dll"});
+    EXPECT_EQ(entries(get<QListWidget>("List7")), std::vector<std::string>{"lib"});
 
-    // The base follows the name field, and a missing folder gives empty lists.
+    // The base follows the name field.
     setText("Text1", "Other");
     window->Command33_Click();
     window->Command34_Click();
-    EXPECT_EQ(get<QListWidget>("List6").count(), 0);
-    EXPECT_EQ(get<QListWidget>("List7").count(), 0);
+    EXPECT_EQ(get<QListWidget>("List6").count() + get<QListWidget>("List7").count(), 0);
 }
 
-TEST_F(Lists, MainExecutableIsPickedRelativeToTheFilesFolder) {
-    dialogs.answerNextOpenFile(projectRoot() + "\\files\\bin\\app.exe");
-    window->Command45_Click();
+// The day answers the question an empty box asks; here, what it asks and when it does not.
+TEST_F(Lists, AnEmptyMainExecutableAsksOnceAndTheChoiceIsKeptBelowTheFilesFolder) {
+    focus("Text21", true);  // still ".exe"
     ASSERT_EQ(dialogs.openFiles.size(), 1u);
     EXPECT_EQ(dialogs.openFiles[0].title, "Select the application main executable");
     EXPECT_EQ(dialogs.openFiles[0].initialFolder, projectRoot() + "\\files");
     EXPECT_EQ(dialogs.openFiles[0].filter, "Executable files|*.exe;*.bat");
-    EXPECT_EQ(text("Text21"), "bin\\app.exe");
-
-    window->Command45_Click();  // cancelled
-    EXPECT_EQ(text("Text21"), "bin\\app.exe");
-    dialogs.answerNextOpenFile("D:\\elsewhere\\tool.exe");
-    window->Command45_Click();
-    EXPECT_EQ(text("Text21"), "tool.exe");
-}
-
-TEST_F(Lists, FocusOnAnEmptyMainExecutableOpensTheChoice) {
-    focus("Text21", true);  // still ".exe"
-    EXPECT_EQ(dialogs.openFiles.size(), 1u);
-    setText("Text21", "app.exe");
-    focus("Text21", true);
-    EXPECT_EQ(dialogs.openFiles.size(), 1u);
-    setText("Text21", "");
-    focus("Text21", true);
-    EXPECT_EQ(dialogs.openFiles.size(), 2u);
     // The focus that returns when a dialog closes does not open it again.
     QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QCoreApplication::sendEvent(&get<QWidget>("Text21"), &back);
-    EXPECT_EQ(dialogs.openFiles.size(), 2u);
+    dialogs.answerNextOpenFile(projectRoot() + "\\files\\bin\\app.exe");
+    window->Command45_Click();
+    EXPECT_EQ(text("Text21"), "bin\\app.exe");
+    focus("Text21", true);
+    window->Command45_Click();  // cancelled
+    EXPECT_EQ(text("Text21"), "bin\\app.exe");
+    EXPECT_EQ(dialogs.openFiles.size(), 3u);
 }
 
 }  // namespace

@@ -177,7 +177,6 @@ TEST_F(Shell, ClosingSavesSilentlyUnlessAskingIsSetAndWaitsForASaveThatRuns) {
     QTRY_COMPARE(unloads, 1);
     EXPECT_EQ(saves, 1);
     EXPECT_TRUE(dialogs.taskDialogs.empty());
-    EXPECT_EQ(unloads, 1);
     EXPECT_EQ(starts, 0);
 }
 
@@ -188,12 +187,10 @@ TEST_F(Shell, StartMenuLinkAsksFirstAndGoesBackToStartWhateverTheAnswer) {
     ASSERT_EQ(dialogs.taskDialogs.size(), 1u);
     EXPECT_EQ(dialogs.taskDialogs[0].instruction, "Save project");
     EXPECT_EQ(dialogs.taskDialogs[0].content, "Do you want to save the current project changes?");
-    EXPECT_EQ(dialogs.taskDialogs[0].title, "Orvanta");
     EXPECT_EQ(dialogs.taskDialogs[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(saves, 0);
     EXPECT_EQ(starts, 1);
     EXPECT_EQ(unloads, 0);
-    EXPECT_EQ(text("Label21"), "Start menu");
 }
 
 TEST_F(Shell, OlderSystemsAskWithAMessageBoxAndYesSaves) {

@@ -36,10 +36,7 @@ TEST(HuffmanCodec, SkewedInputIsCodedAndRoundTrips) {
     for (int i = 0; i < 20000; ++i) input.push_back(static_cast<std::uint8_t>(skewed(random) % 256));
     const Bytes container = encoded(input);
     ASSERT_GE(container.size(), 16u);
-    EXPECT_EQ(container[0], 0x0D);
-    EXPECT_EQ(container[1], '3');
-    EXPECT_EQ(container[2], 'E');
-    EXPECT_EQ(container[3], 'H');
+    EXPECT_EQ(Bytes(container.begin(), container.begin() + 4), (Bytes{0x0D, '3', 'E', 'H'}));
     EXPECT_LT(container.size(), input.size());
     EXPECT_EQ(decoded(container), input);
     const Bytes english =

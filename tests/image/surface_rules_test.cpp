@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "image/c32bppDIB.h"
 #include "support/Sandbox.h"
 #include "surface_test_support.h"
@@ -74,31 +76,26 @@ TEST(SurfacePixelRead, EdgesAndRowOrder) {
     EXPECT_EQ(surface.GetPixel(1, 0, nullptr, false), 0x00007F);
 }
 
+using Boxes = std::vector<std::array<std::int32_t, 4>>;
+
+// Each rectangle as {left, top, right, bottom}.
+Boxes boxesOf(const std::vector<RegionRectangle>& rectangles) {
+    Boxes boxes;
+    for (const RegionRectangle& r : rectangles) boxes.push_back({r.left, r.top, r.right, r.bottom});
+    return boxes;
+}
+
 TEST(SurfaceRegion, StylesAndTheirHeader) {
     c32bppDIB surface;
     // Top row: solid, gap, solid, gap; bottom row: gap, solid, solid, gap.
     fillSurface(surface, 4, 2, {0xFF000000, 0, 0x01010101, 0, 0, 0xFF000000, 0xFF000000, 0});
-    const ImageRegion box = surface.CreateRegion(0, 10, 20);
-    ASSERT_EQ(box.rectangles.size(), 1u);
-    EXPECT_EQ(box.rectangles[0].left, 10);
-    EXPECT_EQ(box.rectangles[0].right, 13);
-    EXPECT_EQ(box.rectangles[0].top, 20);
-    EXPECT_EQ(box.rectangles[0].bottom, 22);
-    const ImageRegion rows = surface.CreateRegion(1);
-    ASSERT_EQ(rows.rectangles.size(), 2u);
-    EXPECT_EQ(rows.rectangles[0].left, 0);
-    EXPECT_EQ(rows.rectangles[0].right, 3);
-    EXPECT_EQ(rows.rectangles[1].left, 1);
-    EXPECT_EQ(rows.rectangles[1].top, 1);
+    EXPECT_EQ(boxesOf(surface.CreateRegion(0, 10, 20).rectangles), (Boxes{{10, 20, 13, 22}}));
+    EXPECT_EQ(boxesOf(surface.CreateRegion(1).rectangles), (Boxes{{0, 0, 3, 1}, {1, 1, 3, 2}}));
     const ImageRegion runs = surface.CreateRegion(2);
-    ASSERT_EQ(runs.rectangles.size(), 3u);
-    EXPECT_EQ(runs.count, 3u);
-    EXPECT_EQ(runs.dataSize, 48u);
-    EXPECT_EQ(runs.headerSize, 32u);
-    EXPECT_EQ(runs.type, 1u);
-    EXPECT_EQ(runs.bounds.left, 0);
-    EXPECT_EQ(runs.bounds.right, 4);
-    EXPECT_EQ(runs.bounds.bottom, 2);
+    EXPECT_EQ(boxesOf(runs.rectangles), (Boxes{{0, 0, 1, 1}, {2, 0, 3, 1}, {1, 1, 3, 2}}));
+    EXPECT_EQ((std::array{runs.headerSize, runs.type, runs.count, runs.dataSize}),
+              (std::array{32u, 1u, 3u, 48u}));
+    EXPECT_EQ(boxesOf({runs.bounds}), (Boxes{{0, 0, 4, 2}}));
     EXPECT_TRUE(runs.contains(2, 0));
     EXPECT_FALSE(runs.contains(1, 0));
     EXPECT_TRUE(surface.CreateRegion(3).empty());
@@ -185,25 +182,22 @@ TEST(SurfaceSave, BitmapLayoutOfBothDepths) {
     fillSurface(surface, 1, 2, {0x80402010, 0xFF010203});
     std::vector<std::uint8_t> bmp;
     ASSERT_TRUE(surface.SaveToStream(bmp));
+    // Signature, file size, data offset, header size, width, height, planes, depth, data size.
+    const auto headerBytes = [&bmp] {
+        std::vector<int> bytes;
+        for (const std::size_t at : {0u, 1u, 2u, 10u, 14u, 18u, 22u, 26u, 28u, 34u})
+            bytes.push_back(bmp.at(at));
+        return bytes;
+    };
     ASSERT_EQ(bmp.size(), 54u + 8u);
-    EXPECT_EQ(bmp[0], 'B');
-    EXPECT_EQ(bmp[1], 'M');
-    EXPECT_EQ(bmp[2], 62);
-    EXPECT_EQ(bmp[10], 54);
-    EXPECT_EQ(bmp[14], 40);
-    EXPECT_EQ(bmp[18], 1);
-    EXPECT_EQ(bmp[22], 2);
-    EXPECT_EQ(bmp[26], 1);
-    EXPECT_EQ(bmp[28], 32);
-    EXPECT_EQ(bmp[34], 8);
+    EXPECT_EQ(headerBytes(), (std::vector<int>{'B', 'M', 62, 54, 40, 1, 2, 1, 32, 8}));
     EXPECT_EQ(std::vector<std::uint8_t>(bmp.begin() + 54, bmp.end()),
               (std::vector<std::uint8_t>{0x03, 0x02, 0x01, 0xFF, 0x10, 0x20, 0x40, 0x80}));
 
     surface.setAlpha(false);
     ASSERT_TRUE(surface.SaveToStream(bmp));
     ASSERT_EQ(bmp.size(), 54u + 8u);  // 3 bytes a row padded to 4
-    EXPECT_EQ(bmp[28], 24);
-    EXPECT_EQ(bmp[34], 8);
+    EXPECT_EQ(headerBytes(), (std::vector<int>{'B', 'M', 62, 54, 40, 1, 2, 1, 24, 8}));
     EXPECT_EQ(std::vector<std::uint8_t>(bmp.begin() + 54, bmp.end()),
               (std::vector<std::uint8_t>{0x03, 0x02, 0x01, 0, 0x10, 0x20, 0x40, 0}));
 

@@ -1,10 +1,12 @@
-// What the command processor does with each kind of line, those cmd.exe would refuse included.
+// What the command processor does with each kind of line, those cmd.exe would refuse included,
+// and the line rules that a run cannot show one by one.
 // The lines that batch files of this system run are compared with cmd.exe in the platform tests.
 #include <gtest/gtest.h>
 
 #include <iostream>
 #include <sstream>
 
+#include "ovcmd/BatchLine.h"
 #include "ovcmd/CommandProcessor.h"
 #include "support/Sandbox.h"
 
@@ -49,7 +51,7 @@ TEST_F(CommandProcessorTest, EachLineDoesItsWorkOrSaysWhyNot) {
          "Access is denied.",
          {"t\\one.tmp", "t\\Two.TMP"},
          {"t\\keep.txt", "t\\locked.tmp"}},
-        {"del /f /q \"<>\\t\\locked.tmp\"", 0, "", {"t\\locked.tmp"}, {"t\\one.tmp"}},
+        {"del/f /q \"<>\\t\\locked.tmp\"", 0, "", {"t\\locked.tmp"}, {"t\\one.tmp"}},  // a switch ends a word
         {"attrib +r \"<>\\t\"", 0, "", {}, {}, "t", kAttributeDirectory},
         {"attrib +h +s \"<>\\t\\keep.txt\"",
          0,
@@ -87,6 +89,36 @@ TEST_F(CommandProcessorTest, NothingRunsAfterTheBatchFileDeletedItself) {
     processor.runBatchFile(batch, {});
     EXPECT_FALSE(box.exists("job.bat"));
     EXPECT_FALSE(box.exists("y"));
+}
+
+TEST(BatchLine, RedirectionOutsideQuotesIsTakenOff) {
+    struct Case {
+        const char* line;
+        const char* command;
+        const char* output;
+        bool append;
+    };
+    const Case cases[] = {
+        {"@dir /b /s \"C:\\a\\files\" > \"C:\\a\\my files.txt\"", "dir /b /s \"C:\\a\\files\"",
+         "C:\\a\\my files.txt", false},
+        {"echo x>>log.txt", "echo x", "log.txt", true},
+        {"\"C:\\a>b\\7z.exe\" a", "\"C:\\a>b\\7z.exe\" a", "", false},
+        {"   del C:\\x   ", "del C:\\x", "", false},
+    };
+    for (const auto& c : cases) {
+        const BatchLine parsed = parseBatchLine(c.line);
+        EXPECT_EQ(parsed.command, c.command) << c.line;
+        EXPECT_EQ(parsed.output, c.output) << c.line;
+        EXPECT_EQ(parsed.append, c.append) << c.line;
+    }
+}
+
+TEST(BatchLine, ReferencesExpandLikeABatchFile) {
+    ::setenv("ORVANTA_TEST_WORD", "value", 1);
+    const std::vector<std::string> arguments = {"C:\\job.bat", "first"};
+    EXPECT_EQ(expandReferences("%0 %1 %2 100%% %ORVANTA_TEST_WORD% %ORVANTA_UNSET_WORD%.", arguments),
+              "C:\\job.bat first  100% value .");
+    EXPECT_EQ(expandReferences("50% off", arguments), "50% off") << "a lone % stays";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "project/LineFile.h"
 #include "support/Sandbox.h"
+#include "support/Split.h"
 
 namespace orvanta {
 namespace {
@@ -60,57 +61,13 @@ MainSettings fullSettings() {
     return s;
 }
 
-const std::vector<std::string> kFullLines = {
-    "Demo",
-    "Ann",
-    " 1 ",
-    " 0 ",
-    "",
-    "",
-    " 1 ",
-    " 1 ",
-    "http://demo.example",
-    "1234",  // 1-10
-    " 0 ",
-    " 1 ",
-    "demo.exe",
-    " 1 ",
-    " 0 ",
-    "2.1",
-    " 1 ",
-    "Program Files\\",
-    "Windows XP",
-    " 0 ",  // 11-20
-    " 1 ",
-    "License",
-    "Read full license",
-    "REGDEL",
-    " 1 ",
-    "readme.txt",
-    " 1 ",
-    " 0 ",
-    " 1 ",
-    "-quiet",  // 21-30
-    " 1 ",
-    "",
-    "http://help",
-    "",
-    "demo-%version.exe",
-    "",
-    " 0 ",
-    " 1 ",
-    " 0 ",
-    "No editions",  // 31-40
-    " 1 ",
-    " 0 ",
-    " 0 ",
-    "i",
-    " 1 ",
-    " 0 ",
-    " 1 ",
-    " 0 ",
-    " 0 ",  // 41-49
-};
+// Lines 1 to 49, between bars.
+const std::vector<std::string> kFullLines = testing::split(
+    "Demo|Ann| 1 | 0 ||| 1 | 1 |http://demo.example|1234| 0 | 1 |demo.exe| 1 | 0 |2.1| 1 |"
+    "Program Files\\|Windows XP| 0 | 1 |License|Read full license|REGDEL| 1 |readme.txt| 1 | 0 |"
+    " 1 |-quiet| 1 ||http://help||demo-%version.exe|| 0 | 1 | 0 |No editions| 1 | 0 | 0 |i| 1 |"
+    " 0 | 1 | 0 | 0 ",
+    '|');
 
 TEST(MainSettingsFile, WritesTheFortyNineLinesByteForByte) {
     EXPECT_EQ(mainSettingsText(fullSettings()), linesText(kFullLines));

@@ -86,18 +86,5 @@ TEST_F(ProjectIndex, TheLongestPathCountsTheDeepestWorkingSetAndTheTemporaryName
                         " characters, and Windows allows 259.");
 }
 
-// The user's day runs it for real.
-TEST_F(ProjectIndex, TheRemovalBatchFileQuotesTheProjectAndItself) {
-    EXPECT_EQ(deleteProjectBatchText("C:\\ws", "X"),
-              "rd /s /q \"C:\\ws\\myinstallers\\X\"\r\ndel \"C:\\ws\\deleteproject.bat\"\r\n");
-}
-
-TEST_F(ProjectIndex, PreviewReadsNameAndAuthor) {
-    box.writeFile("p\\mainsettings.cfg", "My App\r\nAnn Author\r\n 1 \r\n");
-    EXPECT_EQ(projectPreviewLines(box.host(), box.windowsPath("p")),
-              (std::pair<std::string, std::string>{"My App", "Ann Author"}));
-    EXPECT_EQ(projectPreviewLines(box.host(), box.windowsPath("missing")), std::nullopt);
-}
-
 }  // namespace
 }  // namespace orvanta

@@ -14,6 +14,7 @@
 #include "project/LeftoverTemporaries.h"
 #include "project/ProjectPaths.h"
 #include "support/FailingHost.h"
+#include "support/Split.h"
 
 namespace orvanta {
 namespace {
@@ -234,32 +235,17 @@ TEST_F(ProjectSaverTest, TheRecordHoldsEveryEntryComputedApart) {
     EXPECT_EQ(settingsSets.sets[3], (SettingsSet{"run.exe", "Tools", "EXE"}));
     ASSERT_EQ(save(), SaveOutcome::Saved);
 
-    const std::map<std::size_t, std::string> filled = {
-        {0, "uninstallIntro.cfg"},
-        {1, "fonts.cfg"},
-        {2, "uninstallEnd.cfg"},
-        {3, "appdatalocations.cfg"},
-        {5, "mainsettings.cfg"},
-        {6, "folders.cfg"},
-        {7, "intro.cfg"},
-        {8, "registrylocations.cfg"},
-        {9, "packages.cfg"},
-        {10, "files.cfg"},
-        {11, "dependencies.cfg"},
-        {12, "tips.cfg"},
-        {13, "uninstallEnd.cfg"},
-        {14, "readme.txt"},
-        {18, "settingsset\\keys.reg"},
-        {21, "settingsset\\run.exe"},
-        {23, "files\\demo.exe"},
-        {24, "1.jpg"},
-        {25, "preview.png"},
-        {26, "logo.png"},
-        {29, "slicense.txt"},
-        {31, "settingsset\\0.cfg"},
-        {34, "settingsset\\3.cfg"},
-        {36, "settingsset\\settings.cfg"},
-    };
+    // The entries that record a file of the working set, each with the file ("entry file|...").
+    std::map<std::size_t, std::string> filled;
+    for (const std::string& row : testing::split(
+             "0 uninstallIntro.cfg|1 fonts.cfg|2 uninstallEnd.cfg|3 appdatalocations.cfg|"
+             "5 mainsettings.cfg|6 folders.cfg|7 intro.cfg|8 registrylocations.cfg|9 packages.cfg|"
+             "10 files.cfg|11 dependencies.cfg|12 tips.cfg|13 uninstallEnd.cfg|14 readme.txt|"
+             "18 settingsset\\keys.reg|21 settingsset\\run.exe|23 files\\demo.exe|24 1.jpg|25 preview.png|"
+             "26 logo.png|29 slicense.txt|31 settingsset\\0.cfg|34 settingsset\\3.cfg|"
+             "36 settingsset\\settings.cfg",
+             '|'))
+        filled[std::stoul(row)] = row.substr(row.find(' ') + 1);
     std::set<std::string> contents;
     std::vector<std::string> expected(kRecordEntries);
     for (const auto& [entry, file] : filled) {
@@ -364,11 +350,11 @@ TEST_F(ProjectSaverTest, AHandCopiedFolderWritesOnlyIntoItself) {
     auto editor = freshEditor();
     auto opening = context(*editor);
     ASSERT_EQ(loadProject(opening, copy), LoadOutcome::Loaded);
-    ASSERT_EQ(dialogs.messageBoxes.size(), 1u);
-    EXPECT_EQ(dialogs.messageBoxes[0].text, "The folder \"" + copy +
-                                                "\" holds the project \"Demo\", whose own folder is \"" +
-                                                root + "\".\r\nSaving writes only into \"" + copy +
-                                                "\", with the marker file \"Demo.ovproj\" there.");
+    EXPECT_EQ(dialogs.messageTexts(),
+              std::vector<std::string>{"The folder \"" + copy +
+                                       "\" holds the project \"Demo\", whose own folder is \"" + root +
+                                       "\".\r\nSaving writes only into \"" + copy +
+                                       "\", with the marker file \"Demo.ovproj\" there."});
     editor->setText(introText, "the copy's own");
     ASSERT_EQ(save(*editor), SaveOutcome::Saved);
     EXPECT_EQ(Tree::of(original).files, untouched.files);

@@ -3,7 +3,12 @@
 // can prove what a failed save leaves behind. Failures are counted from 1 and happen once.
 // It can also stop the program at its nth change to the disk, as a kill would: a file write is
 // left as its temporary beside the target, any other change is made, and then Killed is thrown,
-// which no routine of the program catches.
+// which no routine of the program catches. And it can answer for the shell, keeping what it was
+// asked to open instead of opening it.
+
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/Host.h"
 
@@ -19,6 +24,8 @@ public:
     void failWrite(int nth) { writesLeft_ = nth; }
     void failRename(int nth) { renamesLeft_ = nth; }
     void killAtChange(int nth) { changesLeft_ = nth; }
+    void answerShell(int result) { shellAnswer_ = result; }
+    std::vector<std::string> opened;  // by the shell, once it is answered for
     // Writes, copies, renames, deletions, new folders and attribute changes so far.
     int changes() const { return changes_; }
 
@@ -87,7 +94,9 @@ public:
     void closeProcess(ProcessHandle process) override { inner_.closeProcess(process); }
     std::vector<std::string> processNames() override { return inner_.processNames(); }
     int shellExecute(const std::string& file, const std::string& parameters, int showCommand) override {
-        return inner_.shellExecute(file, parameters, showCommand);
+        if (!shellAnswer_) return inner_.shellExecute(file, parameters, showCommand);
+        opened.push_back(file);
+        return *shellAnswer_;
     }
     std::optional<NativeTaskDialogAnswer> showTaskDialog(const NativeTaskDialog& plan) override {
         return inner_.showTaskDialog(plan);
@@ -125,6 +134,7 @@ private:
     int renamesLeft_ = 0;
     int changesLeft_ = 0;
     int changes_ = 0;
+    std::optional<int> shellAnswer_;
 };
 
 }  // namespace orvanta::testing

@@ -43,6 +43,12 @@ public:
         return next(folders_, FolderBrowserAnswer());
     }
 
+    std::vector<std::string> messageTexts() const {
+        std::vector<std::string> texts;
+        for (const auto& request : messageBoxes) texts.push_back(request.text);
+        return texts;
+    }
+
     std::vector<MessageBoxRequest> messageBoxes;
     std::vector<TaskDialogRequest> taskDialogs;
     std::vector<TaskDialogExRequest> taskDialogsEx;

@@ -30,15 +30,14 @@ TEST(PackageLocation, RemoveByDefaultFollowsTheKindOfLocation) {
 }
 
 TEST(PackageLocation, StructureAndRootTestsOnShortAndOddTexts) {
-    EXPECT_FALSE(hasLocationStructure(""));
-    EXPECT_FALSE(hasLocationStructure(":"));
-    EXPECT_FALSE(hasLocationStructure(":\\x"));  // the drive letter is missing
-    EXPECT_TRUE(hasLocationStructure("C:\\"));
-    EXPECT_TRUE(hasLocationStructure("?:\\"));  // any character stands for the letter
-    EXPECT_FALSE(hasLocationStructure(" Themes\\x"));
-    EXPECT_FALSE(isRootLocation("C:\\"));
-    EXPECT_FALSE(isRootLocation("Themes"));
-    EXPECT_TRUE(isRootLocation("User ApplicationData (Roaming)\\"));
+    for (const char* refused : {"", ":", ":\\x", " Themes\\x", "mylocation", "C:mylocation",
+                                "program files\\x"})  // no letter before ":\", tokens keep their case
+        EXPECT_FALSE(hasLocationStructure(refused)) << refused;
+    for (const char* kept : {"C:\\", "?:\\", "Themes\\x", "<>\\"})  // any character is a letter
+        EXPECT_TRUE(hasLocationStructure(kept)) << kept;
+    for (const char* root : {"User ApplicationData (Roaming)\\", "Themes\\", "<>\\"})
+        EXPECT_TRUE(isRootLocation(root)) << root;
+    for (const char* deeper : {"C:\\", "Themes", "Themes\\x"}) EXPECT_FALSE(isRootLocation(deeper)) << deeper;
 }
 
 }  // namespace
