@@ -83,7 +83,7 @@ private:
 
     std::string lastFolderError_;
     std::optional<std::vector<std::string>> programArguments(const std::vector<std::string>& words);
-    std::optional<std::uint32_t> spawn(const std::vector<std::string>& arguments);
+    std::optional<std::uint32_t> spawn(const std::vector<std::string>& arguments, bool hidden);
     std::string commandProcessor() const;
 
     HostConfig config_;

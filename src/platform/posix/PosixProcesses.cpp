@@ -1,6 +1,7 @@
 // Processes of the POSIX host. Batch files and the command processor's own commands run under
 // ovcmd; other programs are started directly, their Windows path arguments mapped to host paths.
 #include <dirent.h>
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -137,7 +138,7 @@ std::optional<std::vector<std::string>> PosixHost::programArguments(const std::v
     return arguments;
 }
 
-std::optional<std::uint32_t> PosixHost::spawn(const std::vector<std::string>& arguments) {
+std::optional<std::uint32_t> PosixHost::spawn(const std::vector<std::string>& arguments, bool hidden) {
     std::vector<char*> argv;
     for (const auto& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
@@ -148,17 +149,22 @@ std::optional<std::uint32_t> PosixHost::spawn(const std::vector<std::string>& ar
     for (char** entry = environ; *entry != nullptr; ++entry)
         if (!std::string_view(*entry).starts_with(prefix)) environment.push_back(*entry);
     environment.push_back(nullptr);
+    // A hidden window shows nothing: the child's ordinary output goes nowhere, its errors still show.
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    if (hidden) ::posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t pid = 0;
-    if (::posix_spawnp(&pid, argv[0], nullptr, nullptr, argv.data(), environment.data()) != 0)
-        return std::nullopt;
+    const int failed = ::posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environment.data());
+    ::posix_spawn_file_actions_destroy(&actions);
+    if (failed != 0) return std::nullopt;
     children_[pid] = false;
     return static_cast<std::uint32_t>(pid);
 }
 
-std::optional<std::uint32_t> PosixHost::startProcess(const std::string& commandLine, int) {
+std::optional<std::uint32_t> PosixHost::startProcess(const std::string& commandLine, int windowStyle) {
     const auto arguments = hostArguments(commandLine);
     if (!arguments) return std::nullopt;
-    return spawn(*arguments);
+    return spawn(*arguments, windowStyle == 0);
 }
 
 ProcessHandle PosixHost::openProcess(std::uint32_t processId) {
