@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "controls/PlaceholderText.h"
+#include "controls/about.h"
 #include "controls/QtText.h"
 #include "core/RegistryAPI.h"
 #include "core/commonFunctions.h"
@@ -99,7 +100,7 @@ void start::Form_Load() {
     fillPanel(ui_->Picture1);
     fillPanel(ui_->Picture2);
     listProjects();
-    ui_->Label8->setText(QStringLiteral("Orvanta ") + QStringLiteral("1.0.2"));
+    ui_->Label8->setText(QStringLiteral("Orvanta ") + QString::fromLatin1(kOrvantaVersion));
     ui_->Combo2->clear();
     ui_->Combo2->addItem(kProjectKind);
     ui_->Combo2->setCurrentIndex(0);
