@@ -122,7 +122,8 @@ public:
     virtual std::optional<DiskSpace> diskSpace(const std::string& root) = 0;
 
     // ---- Places
-    // CSIDL numbers 5, 38, 41 and 43; the folder without a trailing backslash, empty if unknown.
+    // CSIDL numbers 5, 26, 28, 35, 38, 41, 43 and 56; the folder without a trailing backslash, empty if
+    // unknown.
     virtual std::string specialFolder(int csidl) = 0;
     // The folder of the running program, without a trailing backslash.
     virtual std::string applicationFolder() = 0;

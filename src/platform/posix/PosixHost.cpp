@@ -72,6 +72,18 @@ std::string PosixHost::specialFolder(int csidl) {
         case 43:
             path = "Program Files/Common Files";
             break;
+        case 26:
+            path = "users/Orvanta/AppData/Roaming";
+            break;
+        case 28:
+            path = "users/Orvanta/AppData/Local";
+            break;
+        case 35:
+            path = "ProgramData";
+            break;
+        case 56:
+            path = "Windows/Resources";
+            break;
         default:
             return {};
     }
