@@ -13,10 +13,13 @@
 #include "editor/packages.h"
 #include "project/EditionSwitch.h"
 #include "project/EditorControls.h"
+#include "project/LineFile.h"
+#include "project/MainSettingsFields.h"
 #include "project/ProjectLoader.h"
 #include "project/ProjectPaths.h"
 #include "project/ProjectSaver.h"
 #include "project/window/start.h"
+#include "simulator/installPreview.h"
 
 namespace orvanta {
 
@@ -38,6 +41,10 @@ mainfrm* ApplicationWindows::editorWindow() const {
 
 LetsPackage* ApplicationWindows::packageDialog() const {
     return letsPackage_;
+}
+
+installPreview* ApplicationWindows::simulator() const {
+    return simulator_;
 }
 
 MainHandOver ApplicationWindows::handOver() {
@@ -82,6 +89,7 @@ mainfrm& ApplicationWindows::ensureEditor() {
     context.showStart = [this] { showStart(); };
     context.unloadStart = [this] { unloadStart(); };
     context.showLetsPackage = [this] { showLetsPackage(); };
+    context.showInstallPreview = [this] { showInstallPreview(); };
     editor_ = new mainfrm(context);
     editor_->setAttribute(Qt::WA_DeleteOnClose);
     fields_ = std::make_unique<mainfrmFields>(*editor_,
@@ -204,6 +212,39 @@ void ApplicationWindows::showLetsPackage() {
 void ApplicationWindows::switchWorkingSet(std::string edition, std::string version) {
     EditorContext switching = editorContext();
     if (changes_edition(switching, edition, version) == LoadOutcome::Loaded) showProjectCaption();
+}
+
+}  // namespace orvanta
+
+namespace orvanta {
+
+// One simulator at a time, over the project as it was saved a moment ago.
+void ApplicationWindows::showInstallPreview() {
+    mainfrm& editor = ensureEditor();
+    if (simulator_ != nullptr) simulator_->closeWindow();
+    installPreviewContext context(host_, dialogs_);
+    const std::string name = fields_->text(ctrl::appName);
+    context.project = {name, projectRoot(vars::workspaceFolder, name), fields_->text(ctrl::workingFolder),
+                       fields_->text(ctrl::introText), fields_->text(ctrl::tipsText)};
+    context.unsavedChanges = [this] { return settingsChangedSinceSave(); };
+    context.endProgram = [] { QApplication::exit(0); };
+    simulator_ = new installPreview(std::move(context), &editor);
+    simulator_->setAttribute(Qt::WA_DeleteOnClose);
+    if (!simulator_->start()) return;
+    simulator_->show();
+    simulator_->raise();
+}
+
+bool ApplicationWindows::settingsChangedSinceSave() {
+    if (!fields_) return false;
+    const std::string file = fields_->text(ctrl::workingFolder) + "\\mainsettings.cfg";
+    const auto saved = readLines(host_, file, kContentListLines);
+    if (!saved) return true;
+    std::string savedText;
+    for (const std::string& line : *saved) savedText += line + "\r\n";
+    // The any-file line depends on a file that may have gone since; either form counts as saved.
+    return savedText != mainSettingsText(mainSettingsOf(*fields_, true)) &&
+           savedText != mainSettingsText(mainSettingsOf(*fields_, false));
 }
 
 }  // namespace orvanta

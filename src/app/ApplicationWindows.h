@@ -16,6 +16,7 @@
 namespace orvanta {
 
 class LetsPackage;
+class installPreview;
 class mainfrm;
 class mainfrmFields;
 class start;
@@ -31,6 +32,7 @@ public:
     mainfrm* editorWindow() const;
     mainfrmFields* fields() const { return fields_.get(); }
     LetsPackage* packageDialog() const;
+    installPreview* simulator() const;
 
     void beginNewProject(const std::string& name, const std::string& author,
                          const std::string& projectRoot) override;
@@ -50,6 +52,9 @@ private:
     void showPackages();
     void showEditions();
     void showLetsPackage();
+    void showInstallPreview();
+    // Whether the editor's settings differ from those the project saved last.
+    bool settingsChangedSinceSave();
     void showStatusOnStart(const std::string& text);
     void switchWorkingSet(std::string edition, std::string version);
     // The caption names the project, whether it was made, opened or switched to another working set.
@@ -60,6 +65,7 @@ private:
     QPointer<start> start_;
     QPointer<mainfrm> editor_;
     QPointer<LetsPackage> letsPackage_;
+    QPointer<installPreview> simulator_;
     std::unique_ptr<mainfrmFields> fields_;
 };
 

@@ -79,6 +79,10 @@ public:
     void rowClick(const std::string& control);
     // The package chooser went away by itself.
     void packageChooserClosed();
+    // A row of the package chooser changed the count of chosen packages.
+    void packagesRecounted();
+    PackageTables& tables() { return tables_; }
+    PackageCounters& counters() { return counters_; }
     void Command3_Click();
     void checks_startup();
     // Starts the watch for a running uninstaller, which the wizard's flow leaves idle.

@@ -166,7 +166,10 @@ void InstallWizard::Command6_Click() {
 
 void InstallWizard::packageChooserClosed() {
     screen_["Command6"].text = ">";
-    if (counters_.total > 0) screen_["Label21"].text = packagesToInstallText(counters_);
+}
+
+void InstallWizard::packagesRecounted() {
+    screen_["Label21"].text = packagesToInstallText(counters_);
 }
 
 void InstallWizard::Label16_Click() {

@@ -37,11 +37,14 @@ TEST_F(WizardTest, PackagesAreCountedWithTheWordsTheManagerWrites) {
     EXPECT_EQ(counters.chosen, 2);
     EXPECT_EQ(tables.slot(0).installByDefault, "0");
     EXPECT_EQ(tables.slot(3).installByDefault, "1");
-    // The choice outlives the list: a new chooser shows it, and the counter follows on closing.
+    // The choice outlives the list: a new chooser shows it, and the start panel counts it.
     EXPECT_THAT(PackageChooser(tables, counters).selected(), ElementsAre(false, true, false, true));
+    EXPECT_EQ(counters.chosen, 2);
+    chooser.clickRow(1, false);
+    wizard->packagesRecounted();
+    EXPECT_EQ(screen().text("Label21"), "1/4 packages to install");
     wizard->packageChooserClosed();
     EXPECT_EQ(screen().text("Command6"), ">");
-    EXPECT_EQ(screen().text("Label21"), "2/4 packages to install");
 }
 
 TEST_F(WizardTest, PackageFieldThatIsNoNumberStopsTheSimulationWithItsName) {

@@ -7,7 +7,9 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QLinearGradient>
 #include <QListWidget>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -20,6 +22,7 @@
 #include "editor/mainfrm.h"
 #include "image/widget/cCrossComm.h"
 #include "platform/Host.h"
+#include "simulator/WizardScreens.h"
 
 namespace {
 
@@ -89,6 +92,75 @@ void renderBuild(orvanta::Host& host, orvanta::Dialogs& dialogs, orvanta::mainfr
     save(progress, folder + QStringLiteral("/packaging.png"));
 }
 
+// A project with a background, a logo, a licence and two packages, played by the simulator; its
+// screens go to "installPreview" below the folder.
+void renderSimulator(orvanta::Host& host, orvanta::Dialogs& dialogs, const QString& dataFolder,
+                     const QString& folder) {
+    using namespace orvanta;
+    const QString root = dataFolder + QStringLiteral("/Sample");
+    QDir().mkpath(root);
+    QImage background(1920, 1080, QImage::Format_RGB32);
+    QPainter painter(&background);
+    QLinearGradient gradient(0, 0, 1920, 1080);
+    gradient.setColorAt(0, QColor(214, 232, 247));
+    gradient.setColorAt(1, QColor(250, 252, 255));
+    painter.fillRect(background.rect(), gradient);
+    painter.end();
+    background.save(root + QStringLiteral("/1.jpg"), "PNG");
+    // The pictures the program delivers beside itself: the row boxes and ticks, and a logo.
+    const QString delivered = QCoreApplication::applicationDirPath() + QStringLiteral("/i/");
+    QDir().mkpath(dataFolder + QStringLiteral("/app/i"));
+    for (const char* picture : {"check.png", "ok.png", "default.png"})
+        QFile::copy(delivered + QLatin1String(picture),
+                    dataFolder + QStringLiteral("/app/i/") + QLatin1String(picture));
+    QFile::copy(delivered + QStringLiteral("default.png"), root + QStringLiteral("/logo.png"));
+    const std::string windowsRoot = host.toWindowsPath(root.toStdString());
+    const char* lines[] = {"Sample App",
+                           "Demo Software Ltd",
+                           " 1 ",
+                           " 1 ",
+                           "",
+                           "",
+                           " 1 ",
+                           " 0 ",
+                           "https://demo.example",
+                           "5242880",
+                           " 1 ",
+                           " 1 ",
+                           "sample.exe",
+                           " 0 ",
+                           " 0 ",
+                           "2.4",
+                           " 0 ",
+                           "<>",
+                           "Windows XP",
+                           " 1 ",
+                           " 0 ",
+                           "Licence agreement",
+                           "Read the full licence",
+                           "",
+                           " 0 ",
+                           "",
+                           " 0 ",
+                           " 1 ",
+                           " 0 "};
+    std::string settings;
+    for (const char* line : lines) settings += std::string(line) + "\r\n";
+    host.writeFileAtomic(windowsRoot + "\\mainsettings.cfg", settings);
+    host.writeFileAtomic(
+        windowsRoot + "\\packages.cfg",
+        "Samples\r\n<>\r\nExample documents to try the program on.\r\n1\r\n0\r\n1024\r\n0\r\n"
+        "Runtime\r\n<>\r\nThe runtime the program needs.\r\n0\r\n1\r\n2048\r\n0\r\n");
+    host.writeFileAtomic(windowsRoot + "\\slicense.txt",
+                         "Sample App is free to use for any purpose.\r\nIt comes without any warranty.\r\n");
+    const WizardProject project{"Sample App", windowsRoot, windowsRoot,
+                                "Sample App keeps your notes in order and finds them again in an instant.",
+                                "Tip: press F3 to search all your notes at once."};
+    const WizardScreensResult result =
+        writeWizardScreens(host, dialogs, project, folder + QStringLiteral("/installPreview"));
+    if (!result.error.empty()) qWarning("simulator: %s", result.error.c_str());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -133,5 +205,6 @@ int main(int argc, char** argv) {
     }
     renderEditions(*host, dialogs, data.path(), folder + QStringLiteral("/editionsfrm.png"));
     renderBuild(*host, dialogs, window, folder);
+    renderSimulator(*host, dialogs, data.path(), folder);
     return 0;
 }

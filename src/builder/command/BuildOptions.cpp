@@ -42,7 +42,7 @@ ParsedOptions parseBuildOptions(const std::vector<std::string>& arguments) {
         } else if (argument == "--reproducible") {
             options.reproducible = true;
         } else if (name == "--edition" || name == "--version" || name == "--compressor" ||
-                   name == "--level" || name == "--sign-command") {
+                   name == "--level" || name == "--sign-command" || name == "--screens") {
             if (!takeValue(arguments, at, name, value)) return refuse(name + " needs a value.");
             if (name == "--edition") {
                 options.edition = value;
@@ -58,6 +58,9 @@ ParsedOptions parseBuildOptions(const std::vector<std::string>& arguments) {
                 if (value.size() != 1 || value[0] < '0' || value[0] > '5')
                     return refuse("--level takes a number from 0 to 5, not \"" + value + "\".");
                 options.level = value[0] - '0';
+            } else if (name == "--screens") {
+                if (value.empty()) return refuse("--screens needs a folder.");
+                options.screensFolder = value;
             } else {
                 if (value.empty()) return refuse("--sign-command needs a command.");
                 options.signCommand = value;
@@ -105,6 +108,10 @@ Options:
                         replaced by the file's path, quoted. Its failure fails the build.
                         Example: --sign-command 'osslsigncode sign -certs c.pem -key k.pem
                           -in {} -out {}.signed && mv {}.signed {}'
+  --screens FOLDER      build nothing: play the installer's wizard over the project offscreen and
+                        write one PNG a step the end user sees (start, package chooser, licence,
+                        installing, finished) into FOLDER, with screens.json naming every
+                        visible control with its rectangle and text
   -h, --help            print this text
 
 Messages go to standard error; questions get the answer that changes nothing (Cancel, No).

@@ -15,7 +15,8 @@ struct BuildOptions {
     int level = 5;
     bool verbose = false;
     bool reproducible = false;
-    std::string signCommand;  // empty: nothing is signed
+    std::string signCommand;    // empty: nothing is signed
+    std::string screensFolder;  // host path; set: the wizard's screens are written, nothing is built
     bool help = false;
 };
 

@@ -10,9 +10,12 @@
 #include "builder/command/TerminalProgress.h"
 #include "core/commonFunctions.h"
 #include "platform/AnsiText.h"
+#include "project/EditorControls.h"
 #include "project/MemoryProjectFields.h"
 #include "project/ProjectLoader.h"
+#include "project/ProjectPaths.h"
 #include "project/WorkingSetChoice.h"
+#include "setup/InstallWizard.h"
 
 namespace orvanta {
 
@@ -55,12 +58,31 @@ HeadlessResult fail(ConsoleOutput& messages, int exitCode, const std::string& te
     return {exitCode, {}};
 }
 
+HeadlessResult writeScreens(Host& host, Dialogs& dialogs, ConsoleOutput& messages,
+                            const BuildOptions& options, const ProjectFields& fields,
+                            const ScreensWriter& screens) {
+    if (!screens)
+        return fail(messages, exitcode::kUsage,
+                    "This orvanta-build was made without windows: --screens is not available.");
+    const std::string name = fields.text(ctrl::appName);
+    // The folder given, wherever it lies: a project outside the workspace is played as well.
+    const WizardProject project{name, projectRoot(host, options.projectFolder),
+                                fields.text(ctrl::workingFolder), fields.text(ctrl::introText),
+                                fields.text(ctrl::tipsText)};
+    const std::string error = screens(host, dialogs, project, options.screensFolder);
+    if (!error.empty())
+        return fail(messages, exitcode::kBuildStopped, "The screens were not all written: " + error + ".");
+    return {exitcode::kBuilt, options.screensFolder};
+}
+
 }  // namespace
 
 HeadlessResult runHeadlessBuild(Host& host, Dialogs& dialogs, ConsoleOutput& messages,
-                                const BuildOptions& options) {
+                                const BuildOptions& options, const ScreensWriter& screens) {
     ProcessSetup process = setUpProcess(host, dialogs, options);
-    if (!process.error.empty()) return fail(messages, exitcode::kNotFound, process.error);
+    // The screens need no archiver.
+    if (!process.error.empty() && (options.screensFolder.empty() || process.build.workspaceFolder.empty()))
+        return fail(messages, exitcode::kNotFound, process.error);
 
     const WorkingSetChoice choice = findWorkingSet(host, options, messages);
     if (!choice.folder) return {exitcode::kNotFound, {}};
@@ -73,6 +95,9 @@ HeadlessResult runHeadlessBuild(Host& host, Dialogs& dialogs, ConsoleOutput& mes
         return fail(
             messages, exitcode::kNotFound,
             "The project in " + utf8ToAnsi(host.toHostPath(*choice.folder)) + " could not be loaded.");
+
+    if (!options.screensFolder.empty())
+        return writeScreens(host, dialogs, messages, options, fields, screens);
 
     NoForm form;
     const PackageCheckResult checks = runPackageChecks(host, dialogs, fields, form);

@@ -10,6 +10,31 @@
 #include "builder/command/ProcessStreams.h"
 #include "core/RuntimeError.h"
 
+#ifdef ORVANTA_WIZARD_SCREENS
+#include <QApplication>
+
+#include "image/widget/cCrossComm.h"
+#include "simulator/WizardScreens.h"
+
+namespace {
+
+// The wizard played offscreen, as the simulator shows it, in a Qt application of its own.
+std::string writeScreens(orvanta::Host& host, orvanta::Dialogs& dialogs,
+                         const orvanta::WizardProject& project, const std::string& folder) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char name[] = "orvanta-build";
+    char* argv[] = {name, nullptr};
+    QApplication application(argc, argv);
+    orvanta::cCrossComm::instance().setHost(&host);
+    const auto result = orvanta::writeWizardScreens(host, dialogs, project, QString::fromStdString(folder));
+    for (const QString& file : result.files) std::fprintf(stderr, "%s\n", file.toLocal8Bit().constData());
+    return result.error;
+}
+
+}  // namespace
+#endif
+
 int main(int argc, char** argv) {
     using namespace orvanta;
     const ParsedOptions parsed = parseBuildOptions(std::vector<std::string>(argv + 1, argv + argc));
@@ -28,7 +53,12 @@ int main(int argc, char** argv) {
     config.commandLineSet = true;  // the entry routine must not take our arguments for a marker
     try {
         const std::unique_ptr<Host> host = createHost(config);
-        const HeadlessResult result = runHeadlessBuild(*host, dialogs, messages, *parsed.options);
+#ifdef ORVANTA_WIZARD_SCREENS
+        const ScreensWriter screens = writeScreens;
+#else
+        const ScreensWriter screens;
+#endif
+        const HeadlessResult result = runHeadlessBuild(*host, dialogs, messages, *parsed.options, screens);
         if (!result.package.empty()) std::fprintf(packagePath, "%s\n", result.package.c_str());
         return result.exitCode;
     } catch (const RuntimeError& error) {
