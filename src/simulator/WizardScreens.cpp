@@ -102,9 +102,7 @@ void settle(installPreview& window, Until until) {
         const auto next = std::find_if(timers.begin(), timers.end(),
                                        [&](WizardTimer which) { return wizard.timer(which).enabled; });
         if (next == timers.end()) return;
-        window.timer(*next)->stop();
-        wizard.tick(*next);
-        window.sync();
+        window.deliverTick(*next);
     }
 }
 

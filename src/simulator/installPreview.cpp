@@ -44,7 +44,7 @@ installPreview::installPreview(installPreviewContext context, QWidget* parent)
     for (std::size_t index = 0; index < kWizardTimers; ++index) {
         timers_[index] = new QTimer(this);
         connect(timers_[index], &QTimer::timeout, this,
-                [this, index] { handle([this, index] { wizard_.tick(static_cast<WizardTimer>(index)); }); });
+                [this, index] { deliverTick(static_cast<WizardTimer>(index)); });
     }
     ui_->installing->setRotateEnabled(true);
     ui_->isButton1->setStyleSheet(QStringLiteral("background-color: rgb(238, 244, 249);"));
@@ -192,6 +192,13 @@ void installPreview::syncTimers() {
         if (state.enabled && !timer.isActive()) timer.start();
         if (!state.enabled && timer.isActive()) timer.stop();
     }
+}
+
+// The timer stands still while its tick runs: the roll lets waiting events through, and a 1 ms
+// timer would otherwise tick again inside its own tick.
+void installPreview::deliverTick(WizardTimer which) {
+    timer(which)->stop();
+    handle([this, which] { wizard_.tick(which); });
 }
 
 void installPreview::Command1_Click() {

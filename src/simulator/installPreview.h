@@ -53,6 +53,8 @@ public:
     InstallWizard& wizard() { return wizard_; }
     std::array<WizardPanel*, 4> mainzone{};
     QTimer* timer(WizardTimer which) { return timers_[static_cast<std::size_t>(which)]; }
+    // A tick of one of the wizard's timers, as the timer gives it; the tests give their own.
+    void deliverTick(WizardTimer which);
     installPackages* packageChooser() const;
     // Draws the wizard's screen into the controls; the tests call it after driving the model.
     void sync();
