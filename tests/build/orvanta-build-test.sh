@@ -94,6 +94,30 @@ expect "what the 7-Zip build leaves" "Demo Setup 1.0.exe" "$(ls "$project/compil
 [ ! -e "$project/install.exe" ] || fail "the staged install.exe was left in the project"
 grep -q "75% Cleaning temporary files..." "$work/err" || fail "plain progress lines: $(cat "$work/err")"
 
+# ---- The wizard's screens: a PNG a step and screens.json, without building anything.
+if "$bin/orvanta-build" --help | grep -q -- --screens && [ -n "$(command -v python3)" ]; then
+    rm -f "$package"
+    QT_QPA_PLATFORM=offscreen build --screens "$work/screens" || fail "screens: exit $? $(cat "$work/err")"
+    [ ! -e "$package" ] || fail "--screens built a package"
+    expect "the screens written" "1-start.png
+2-installing.png
+3-finished.png
+screens.json" "$(ls "$work/screens")"
+    for picture in "$work"/screens/*.png; do
+        [ "$(head -c 4 "$picture" | tail -c 3)" = PNG ] || fail "not a PNG: $picture"
+    done
+    expect "what the screens show" "start: Demo Installation; Label1 Demo; Command1 Install
+installing: Demo Installation; Label13 Copying files...
+finished: Demo Installation; Command1 Run Demo" "$(python3 -c '
+import json, sys
+for screen in json.load(open(sys.argv[1]))["screens"]:
+    shown = {c["name"]: c["text"] for c in screen["controls"]}
+    wanted = {"start": ["Label1", "Command1"], "installing": ["Label13"], "finished": ["Command1"]}[screen["step"]]
+    print(screen["step"] + ": " + screen["title"] + "; " + "; ".join(n + " " + shown[n] for n in wanted))
+' "$work/screens/screens.json")"
+    build || fail "7-Zip build after the screens: exit $? $(cat "$work/err")"
+fi
+
 # ---- An edition: its own working set and its own package.
 build --edition Pro || fail "edition build: exit $? $(cat "$work/err")"
 pro="$project/editions/Pro/compiled/Demo Setup 1.0.exe"
