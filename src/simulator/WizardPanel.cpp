@@ -11,17 +11,21 @@ WizardPanel::WizardPanel(QWidget* parent) : QWidget(parent), picture_(new aicAlp
     setAutoFillBackground(true);
 }
 
-void WizardPanel::showWindowPicture(const std::string& path, QSize windowSize, QPoint offset) {
-    picture_->setGeometry(QRect(-offset, windowSize));
+void WizardPanel::showWindowPicture(const c32bppDIB& windowPicture, QPoint offset) {
+    const QSize size(windowPicture.Width(), windowPicture.Height());
+    picture_->setGeometry(QRect(-offset, size));
     picture_->lower();
-    if (path.empty()) {
+    if (windowPicture.Handle() == 0) {
         picture_->ClearImage();
         return;
     }
-    picture_->setScaleMethod(kScaleStretch);
-    picture_->setStretchQuality(true);
+    // Already at the window's size: the panel copies pixels and never scales.
+    const std::uint8_t* bits = windowPicture.BitsPointer();
+    const auto bytes =
+        static_cast<std::size_t>(windowPicture.scanWidth()) * static_cast<std::size_t>(size.height());
+    picture_->setScaleMethod(kScaleActualSize);
     picture_->setAutoRedraw(true);
-    picture_->LoadImage_FromFile(path, windowSize.width(), windowSize.height());
+    picture_->SetImageBytes(std::vector<std::uint8_t>(bits, bits + bytes), size.width(), size.height());
 }
 
 }  // namespace orvanta

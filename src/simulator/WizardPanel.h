@@ -9,15 +9,16 @@
 namespace orvanta {
 
 class aicAlphaImage;
+class c32bppDIB;
 
 class WizardPanel : public QWidget {
     Q_OBJECT
 public:
     explicit WizardPanel(QWidget* parent = nullptr);
 
-    // The window's picture, scaled to `windowSize` and placed so that the panel at `offset` in the
-    // window shows the part of it below itself; an empty path leaves the panel plain.
-    void showWindowPicture(const std::string& path, QSize windowSize, QPoint offset);
+    // The window's picture as the window shows it, placed so that the panel at `offset` in the
+    // window shows the part of it below itself; an empty picture leaves the panel plain.
+    void showWindowPicture(const c32bppDIB& windowPicture, QPoint offset);
     aicAlphaImage& picture() { return *picture_; }
 
 private:

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "controls/QtText.h"
+#include "image/c32bppDIB.h"
 #include "image/widget/aicAlphaImage.h"
 #include "simulator/WizardPanel.h"
 #include "simulator/installPackages.h"
@@ -171,17 +172,21 @@ void installPreview::syncPicture(QWidget& widget, const ControlState& state) {
     if (state.rotation != 0) picture.setRotation(state.rotation % 360);
 }
 
+// The picture is decoded and scaled once for the window; each panel takes its own part of it.
 void installPreview::syncBackground() {
     const std::string& wanted = viewerBackground_ ? *viewerBackground_ : wizard_.screen().background;
     if (wanted == shownBackground_) return;
     shownBackground_ = wanted;
-    ui_->background->setScaleMethod(kScaleStretch);
-    ui_->background->setStretchQuality(true);
-    if (wanted.empty())
-        ui_->background->ClearImage();
-    else
-        ui_->background->LoadImage_FromFile(wanted, width(), height());
-    for (WizardPanel* panel : mainzone) panel->showWindowPicture(wanted, size(), kPanelOffset);
+    aicAlphaImage& background = *ui_->background;
+    background.setScaleMethod(kScaleStretch);
+    background.setStretchQuality(true);
+    c32bppDIB shown;
+    if (wanted.empty() || !background.LoadImage_FromFile(wanted)) {
+        background.ClearImage();
+    } else if (shown.InitializeDIB(width(), height())) {
+        background.renderPicture(shown);
+    }
+    for (WizardPanel* panel : mainzone) panel->showWindowPicture(shown, kPanelOffset);
 }
 
 void installPreview::syncTimers() {
