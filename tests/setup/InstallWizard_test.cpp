@@ -411,8 +411,10 @@ TEST_F(WizardTest, WholeWizardChangesNothingButTheCommonFolder) {
         if (!before.count(path) || before.at(path) != facts) changed.push_back(path);
     for (const auto& [path, facts] : before)
         if (!after.count(path)) changed.push_back("gone: " + path);
-    ASSERT_EQ(changed.size(), 1u) << ::testing::PrintToString(changed);
-    EXPECT_THAT(changed[0], HasSubstr("O-Vanta"));
+    // The common folder lies in the sandbox here; under Windows it is the machine's own.
+    std::erase_if(changed, [](const std::string& path) { return path.find("O-Vanta") != std::string::npos; });
+    EXPECT_THAT(changed, ::testing::IsEmpty());
+    EXPECT_EQ(folderExists(host, specialFolder(host, kFolderCommonProgramFiles) + "O-Vanta"), kTrue);
     RegistryAPI registry(host);
     EXPECT_FALSE(registry.registryKeyExists(
         "HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Demo App"));
