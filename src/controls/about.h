@@ -15,7 +15,7 @@ class about;
 
 namespace orvanta {
 
-inline constexpr const char* kOrvantaVersion = "1.0.3";
+inline constexpr const char* kOrvantaVersion = "1.0.4";
 // Below the program's folder.
 inline constexpr const char* kChangelogFile = "\\changelog.txt";
 inline constexpr const char* kLicenceFile = "\\licence.txt";
