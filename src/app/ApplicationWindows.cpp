@@ -231,6 +231,7 @@ void ApplicationWindows::showInstallPreview() {
     simulator_ = new installPreview(std::move(context), &editor);
     simulator_->setAttribute(Qt::WA_DeleteOnClose);
     if (!simulator_->start()) return;
+    simulator_->move(editor.geometry().center() - simulator_->rect().center());
     simulator_->show();
     simulator_->raise();
 }

@@ -2,8 +2,10 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -89,11 +91,20 @@ void installPreview::connectEvents() {
     }
 }
 
-// The row boxes and ticks are the program's own pictures, beside it in "\i".
+// An empty box, drawn here; the tick laid over it and the turning image are the program's own
+// pictures, beside it in "\i".
 void installPreview::loadDeliveredPictures() {
+    QImage box(16, 16, QImage::Format_ARGB32_Premultiplied);
+    box.fill(Qt::transparent);
+    QPainter painter(&box);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(120, 130, 140));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(1.5, 1.5, 13, 13), 3, 3);
+    painter.end();
+    for (aicAlphaImage* row : {ui_->Check1, ui_->Check2, ui_->Check3, ui_->aicAlphaImage2})
+        row->LoadImage_FromHandle(box);
     const std::string pictures = context_.host.applicationFolder() + "\\i\\";
-    for (aicAlphaImage* box : {ui_->Check1, ui_->Check2, ui_->Check3, ui_->aicAlphaImage2})
-        box->LoadImage_FromFile(pictures + "check.png");
     for (aicAlphaImage* tick : {ui_->okay, ui_->okay2, ui_->okay3, ui_->okay4})
         tick->LoadImage_FromFile(pictures + "ok.png");
     ui_->installing->LoadImage_FromFile(pictures + "default.png");
