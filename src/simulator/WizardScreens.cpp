@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "simulator/WizardPanel.h"
 #include "simulator/installPackages.h"
 #include "simulator/installPreview.h"
 
@@ -37,14 +38,46 @@ QString shownText(const QWidget& widget) {
     return {};
 }
 
-// Every named control that the user can see on `window`, with its rectangle in the window.
-QJsonArray visibleControls(QWidget& window) {
+// The controls a screen lists: the wizard's by the names the wizard gives them ("mainzone(0)"),
+// the package chooser's by their own.
+using NamedControls = std::vector<std::pair<QString, QWidget*>>;
+
+// A panel under the one on top is hidden by it, with all it holds.
+NamedControls wizardControls(installPreview& window) {
+    std::vector<QWidget*> covered;
+    for (int panel = 3; panel >= 0; --panel) {
+        QWidget* zone = window.mainzone[static_cast<std::size_t>(panel)];
+        if (!zone->isVisible()) continue;
+        for (int below = panel - 1; below >= 0; --below)
+            covered.push_back(window.mainzone[static_cast<std::size_t>(below)]);
+        break;
+    }
+    const auto hidden = [&](const QWidget* widget) {
+        return std::any_of(covered.begin(), covered.end(),
+                           [&](const QWidget* zone) { return zone == widget || zone->isAncestorOf(widget); });
+    };
+    NamedControls named;
+    for (const auto& [name, state] : window.wizard().screen().controls()) {
+        QWidget* widget = window.control(name);
+        if (widget != nullptr && !hidden(widget)) named.emplace_back(QString::fromStdString(name), widget);
+    }
+    return named;
+}
+
+NamedControls ownControls(QWidget& window) {
+    NamedControls named;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(QLatin1String("qt_")))
+            named.emplace_back(widget->objectName(), widget);
+    return named;
+}
+
+// Every control that the user can see on `window`, with its rectangle in the window.
+QJsonArray visibleControls(QWidget& window, const NamedControls& named) {
     QJsonArray controls;
     const QRect bounds = window.rect();
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        const QString name = widget->objectName();
-        if (name.isEmpty() || name.startsWith(QLatin1String("qt_")) || !widget->isVisibleTo(&window))
-            continue;
+    for (const auto& [name, widget] : named) {
+        if (!widget->isVisibleTo(&window)) continue;
         const QRect area(widget->mapTo(&window, QPoint(0, 0)), widget->size());
         if (!area.intersects(bounds)) continue;
         controls.append(QJsonObject{{QStringLiteral("name"), name},
@@ -61,7 +94,7 @@ class ScreenWriter {
 public:
     explicit ScreenWriter(const QString& folder) : folder_(folder) {}
 
-    void take(QWidget& window, const QString& step) {
+    void take(QWidget& window, const QString& step, const NamedControls& named) {
         QApplication::processEvents();
         const QString file = QStringLiteral("%1-%2.png").arg(screens_.size() + 1).arg(step);
         if (!window.grab().save(folder_ + QLatin1Char('/') + file)) failed_ = true;
@@ -71,7 +104,7 @@ public:
                                     {QStringLiteral("title"), window.windowTitle()},
                                     {QStringLiteral("width"), window.width()},
                                     {QStringLiteral("height"), window.height()},
-                                    {QStringLiteral("controls"), visibleControls(window)}});
+                                    {QStringLiteral("controls"), visibleControls(window, named)}});
     }
 
     bool finish() {
@@ -127,12 +160,12 @@ WizardScreensResult writeWizardScreens(Host& host, Dialogs& dialogs, const Wizar
         return screen.visible(WizardScreen::panel(panel)) && screen.at(WizardScreen::panel(panel)).left == 0;
     };
     if (panelShown(0) && !panelShown(2)) {
-        writer.take(window, QStringLiteral("start"));
+        writer.take(window, QStringLiteral("start"), wizardControls(window));
         if (screen.visible("Command6")) {
             window.Command6_Click();
             if (installPackages* chooser = window.packageChooser()) {
                 QApplication::processEvents();
-                writer.take(*chooser, QStringLiteral("packages"));
+                writer.take(*chooser, QStringLiteral("packages"), ownControls(*chooser));
                 chooser->Timer1->stop();
             }
             window.Command6_Click();
@@ -140,7 +173,7 @@ WizardScreensResult writeWizardScreens(Host& host, Dialogs& dialogs, const Wizar
         window.Command1_Click();
         settle(window, Until::RollEnds);
         if (screen.visible("mainzone(1)") && screen.text("Command1") == "I accept these terms") {
-            writer.take(window, QStringLiteral("licence"));
+            writer.take(window, QStringLiteral("licence"), wizardControls(window));
             window.Command1_Click();
             settle(window, Until::RollEnds);
         }
@@ -148,12 +181,13 @@ WizardScreensResult writeWizardScreens(Host& host, Dialogs& dialogs, const Wizar
     if (!screen.visible("mainzone(2)")) {
         result.error = "the wizard stayed on its start panel";
     } else {
-        writer.take(window, QStringLiteral("installing"));
+        writer.take(window, QStringLiteral("installing"), wizardControls(window));
         settle(window, Until::RunEnds);
         if (!wizard.installFinished()) result.error = "the run did not end";
         window.Command1_Click();
         settle(window, Until::CountdownEnds);
-        if (screen.visible("mainzone(3)")) writer.take(window, QStringLiteral("finished"));
+        if (screen.visible("mainzone(3)"))
+            writer.take(window, QStringLiteral("finished"), wizardControls(window));
     }
     result.files = std::move(writer.files());
     if (!writer.finish() && result.error.empty())

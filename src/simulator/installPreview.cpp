@@ -62,6 +62,11 @@ installPreview::~installPreview() {
     if (chooser_ != nullptr) delete chooser_.data();
 }
 
+QWidget* installPreview::control(const std::string& name) const {
+    const auto found = widgets_.find(name);
+    return found == widgets_.end() ? nullptr : found->second;
+}
+
 installPackages* installPreview::packageChooser() const {
     return chooser_;
 }

@@ -51,6 +51,8 @@ public:
 
     Ui::installPreview& controls() { return *ui_; }
     InstallWizard& wizard() { return wizard_; }
+    // The control the wizard knows by `name` ("mainzone(0)", "Label11(1)"); nullptr for none.
+    QWidget* control(const std::string& name) const;
     std::array<WizardPanel*, 4> mainzone{};
     QTimer* timer(WizardTimer which) { return timers_[static_cast<std::size_t>(which)]; }
     // A tick of one of the wizard's timers, as the timer gives it; the tests give their own.
