@@ -18,7 +18,8 @@ TEST(about, ShowsTheVersionAndOpensTheShippedFiles) {
     testing::ScriptedDialogs dialogs;
     about window(host, dialogs);
     EXPECT_EQ(window.findChild<QLabel*>("lblName")->text(), "Orvanta");
-    EXPECT_EQ(window.findChild<QLabel*>("lblVersion")->text(), "Version 1.0.3");
+    EXPECT_EQ(window.findChild<QLabel*>("lblVersion")->text().toStdString(),
+              std::string("Version ") + kOrvantaVersion);
     for (const char* button : {"cmdChangelog", "cmdLicence", "cmdDocumentation"})
         window.findChild<QPushButton*>(button)->click();
     const std::string folder = host.applicationFolder();
