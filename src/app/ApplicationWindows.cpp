@@ -11,6 +11,8 @@
 #include "editor/mainfrm.h"
 #include "editor/mainfrmFields.h"
 #include "editor/packages.h"
+#include "editor/themesmanager.h"
+#include "image/widget/aicAlphaImage.h"
 #include "project/EditionSwitch.h"
 #include "project/EditorControls.h"
 #include "project/LineFile.h"
@@ -45,6 +47,10 @@ LetsPackage* ApplicationWindows::packageDialog() const {
 
 installPreview* ApplicationWindows::simulator() const {
     return simulator_;
+}
+
+themesmanager* ApplicationWindows::backgroundsManager() const {
+    return themes_;
 }
 
 MainHandOver ApplicationWindows::handOver() {
@@ -90,6 +96,7 @@ mainfrm& ApplicationWindows::ensureEditor() {
     context.unloadStart = [this] { unloadStart(); };
     context.showLetsPackage = [this] { showLetsPackage(); };
     context.showInstallPreview = [this] { showInstallPreview(); };
+    context.showBackgrounds = [this] { showBackgrounds(); };
     editor_ = new mainfrm(context);
     editor_->setAttribute(Qt::WA_DeleteOnClose);
     fields_ = std::make_unique<mainfrmFields>(*editor_,
@@ -219,7 +226,7 @@ void ApplicationWindows::switchWorkingSet(std::string edition, std::string versi
 namespace orvanta {
 
 // One simulator at a time, over the project as it was saved a moment ago.
-void ApplicationWindows::showInstallPreview() {
+installPreview* ApplicationWindows::openSimulator() {
     mainfrm& editor = ensureEditor();
     if (simulator_ != nullptr) simulator_->closeWindow();
     installPreviewContext context(host_, dialogs_);
@@ -230,10 +237,34 @@ void ApplicationWindows::showInstallPreview() {
     context.endProgram = [] { QApplication::exit(0); };
     simulator_ = new installPreview(std::move(context), &editor);
     simulator_->setAttribute(Qt::WA_DeleteOnClose);
-    if (!simulator_->start()) return;
-    simulator_->move(editor.geometry().center() - simulator_->rect().center());
-    simulator_->show();
-    simulator_->raise();
+    if (!simulator_->start()) return nullptr;
+    return simulator_;
+}
+
+void ApplicationWindows::showInstallPreview() {
+    installPreview* simulator = openSimulator();
+    if (simulator == nullptr) return;
+    simulator->move(editorWindow()->geometry().center() - simulator->rect().center());
+    simulator->show();
+    simulator->raise();
+}
+
+// One backgrounds manager at a time; the simulator is its viewer.
+void ApplicationWindows::showBackgrounds() {
+    mainfrm& editor = ensureEditor();
+    if (themes_ != nullptr) {
+        themes_->raise();
+        themes_->activateWindow();
+        return;
+    }
+    themesmanagerContext context(host_, dialogs_);
+    context.workingFolder = fields_->text(ctrl::workingFolder);
+    // Looked up before the manager exists: it has a picture of the same name.
+    context.editorBackground = editor.findChild<aicAlphaImage*>(QStringLiteral("aicAlphaImage3"));
+    context.preview = &backgroundViewer_;
+    themes_ = new themesmanager(std::move(context), &editor);
+    themes_->setAttribute(Qt::WA_DeleteOnClose);
+    themes_->show();
 }
 
 bool ApplicationWindows::settingsChangedSinceSave() {

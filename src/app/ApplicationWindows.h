@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "app/SimulatorViewer.h"
 #include "core/Dialogs.h"
 #include "core/StartBitch.h"
 #include "platform/Host.h"
@@ -20,6 +21,7 @@ class installPreview;
 class mainfrm;
 class mainfrmFields;
 class start;
+class themesmanager;
 
 class ApplicationWindows : public ProjectEditor {
 public:
@@ -33,6 +35,7 @@ public:
     mainfrmFields* fields() const { return fields_.get(); }
     LetsPackage* packageDialog() const;
     installPreview* simulator() const;
+    themesmanager* backgroundsManager() const;
 
     void beginNewProject(const std::string& name, const std::string& author,
                          const std::string& projectRoot) override;
@@ -52,7 +55,9 @@ private:
     void showPackages();
     void showEditions();
     void showLetsPackage();
+    installPreview* openSimulator();
     void showInstallPreview();
+    void showBackgrounds();
     // Whether the editor's settings differ from those the project saved last.
     bool settingsChangedSinceSave();
     void showStatusOnStart(const std::string& text);
@@ -66,6 +71,8 @@ private:
     QPointer<mainfrm> editor_;
     QPointer<LetsPackage> letsPackage_;
     QPointer<installPreview> simulator_;
+    QPointer<themesmanager> themes_;
+    SimulatorViewer backgroundViewer_{[this] { return openSimulator(); }};
     std::unique_ptr<mainfrmFields> fields_;
 };
 

@@ -2,6 +2,7 @@
 // run cannot be cut short by the window's frame, and leaving by the uninstall link asks first
 // when the project has changed since.
 #include <QCloseEvent>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -11,7 +12,9 @@
 
 #include "UserDay.h"
 #include "core/RegistryAPI.h"
+#include "core/vars.h"
 #include "editor/mainfrm.h"
+#include "editor/themesmanager.h"
 #include "image/widget/aicAlphaImage.h"
 #include "simulator/WizardPanel.h"
 #include "simulator/installPackages.h"
@@ -118,6 +121,43 @@ TEST_F(SimulationDay, TheUninstallLinkAsksBeforeLosingChangesAndEndsTheProgram) 
     letEventsRun();
     ASSERT_NE(windows->simulator(), nullptr);
     EXPECT_EQ(dialogs.messageBoxes.back().buttons, MessageButtons::YesNo);
+}
+
+// The backgrounds manager from the editor's "Change" button, with the simulator as its viewer.
+TEST_F(SimulationDay, TheBackgroundsManagerShowsEachPictureInTheLockedSimulatorAndApplies) {
+    box.makeFolder("Documents\\Orvanta\\backgrounds");
+    for (const auto& [name, colour] : {std::pair{"dawn.png", Qt::red}, std::pair{"noon.png", Qt::blue}}) {
+        QImage picture(96, 54, QImage::Format_ARGB32);
+        picture.fill(colour);
+        picture.save(
+            QString::fromStdString((box.hostRoot() / "Documents/Orvanta/backgrounds" / name).string()));
+    }
+    RegistryAPI registry(box.host());
+    registry.createRegistryKey(vars::settingsKey());
+    registry.writeSettingNumber(vars::settingsKey(), "backPreview", 1);
+
+    QTest::mouseClick(&in<QPushButton>(editor(), "Command1"), Qt::LeftButton);
+    letEventsRun();
+    themesmanager* manager = windows->backgroundsManager();
+    ASSERT_NE(manager, nullptr);
+    ASSERT_NE(windows->simulator(), nullptr);
+    EXPECT_TRUE(windows->simulator()->isVisible());
+    EXPECT_FALSE(in<QPushButton>(*windows->simulator(), "Command2").isEnabled());
+    EXPECT_FALSE(windows->simulator()->close());  // a viewer, not a wizard
+
+    const installPreview* first = windows->simulator();
+    QTest::mouseClick(&in<QPushButton>(*manager, "Command1"), Qt::LeftButton);
+    letEventsRun();
+    ASSERT_NE(windows->simulator(), nullptr);
+    EXPECT_NE(windows->simulator(), first);  // opened anew over the new background
+    const std::string shown = in<QLineEdit>(*manager, "label1").text().toStdString();
+    EXPECT_EQ(bytes("1.jpg"), box.readFile("Documents\\Orvanta\\backgrounds\\" + shown));
+
+    QTest::mouseClick(&in<QPushButton>(*manager, "Command3"), Qt::LeftButton);
+    letEventsRun();
+    EXPECT_EQ(windows->backgroundsManager(), nullptr);
+    EXPECT_EQ(windows->simulator(), nullptr);
+    EXPECT_NE(in<aicAlphaImage>(editor(), "aicAlphaImage3").image().Width(), 0);
 }
 
 }  // namespace
