@@ -157,7 +157,11 @@ void themesmanager::label1_Change(const QString& text) {
 bool themesmanager::copyOverBackground() {
     const std::string source = currentFile();
     const std::string target = context_.workingFolder + "\\1.jpg";
-    if (source.empty() || context_.host.copyFile(source, target)) return true;
+    if (source.empty()) return true;
+    if (context_.host.copyFile(source, target)) {
+        copiedOverBackground_ = true;
+        return true;
+    }
     context_.dialogs.messageBox({"The background " + source + " could not be copied to " + target + ".",
                                  MessageButtons::Ok, MessageIcon::Exclamation, ""});
     return false;
@@ -165,8 +169,6 @@ bool themesmanager::copyOverBackground() {
 
 void themesmanager::Command3_Click() {
     if (currentFile().empty() || !copyOverBackground()) return;
-    if (context_.editorBackground != nullptr)
-        context_.editorBackground->LoadImage_FromFile(context_.workingFolder + "\\1.jpg");
     close();
 }
 
@@ -227,6 +229,9 @@ void themesmanager::showEvent(QShowEvent* event) {
 void themesmanager::closeEvent(QCloseEvent* event) {
     Timer1->stop();
     if (ui_->Check1->isChecked() && context_.preview != nullptr) context_.preview->close();
+    // Walking with the preview on changed the background too: the editor shows what the project has.
+    if (copiedOverBackground_ && context_.editorBackground != nullptr)
+        context_.editorBackground->LoadImage_FromFile(context_.workingFolder + "\\1.jpg");
     if (QWidget* editor = parentWidget()) {
         editor->raise();
         editor->activateWindow();

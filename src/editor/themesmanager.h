@@ -73,6 +73,7 @@ private:
     std::unique_ptr<Ui::themesmanager> ui_;
     std::vector<std::string> names_;
     bool emptyFolder_ = false;
+    bool copiedOverBackground_ = false;
     QPoint placedAt_;
 };
 

@@ -173,7 +173,7 @@ TEST_F(Backgrounds, WalkingWithThePreviewOnMakesEachPictureTheBackgroundAndDoNot
     EXPECT_FALSE(window->isVisible());
     EXPECT_FALSE(viewer.isOpen());
     EXPECT_EQ(sandbox.readFile("project\\1.jpg"), bytes(*window, 2));
-    EXPECT_TRUE(clear(&editorBackground));
+    EXPECT_FALSE(clear(&editorBackground));  // the editor shows the background the walk left
 }
 
 TEST_F(Backgrounds, SearchFindsTheFirstNameHoldingTheTextAndApplyMakesItTheBackground) {

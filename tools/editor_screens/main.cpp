@@ -1,6 +1,7 @@
 // Renders each page of the editor window, and the package dialog and the progress window of a
 // build over it, into PNG files in the folder given as the argument, with a small project filled
-// in so that lists and fields show what they hold.
+// in so that lists and fields show what they hold; then the simulator's screens and the
+// backgrounds manager.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,8 +19,10 @@
 #include "builder/window/LetsPackage.h"
 #include "builder/window/packaging.h"
 #include "controls/QtDialogs.h"
+#include "core/vars.h"
 #include "editor/editionsfrm.h"
 #include "editor/mainfrm.h"
+#include "editor/themesmanager.h"
 #include "image/widget/cCrossComm.h"
 #include "platform/Host.h"
 #include "simulator/WizardScreens.h"
@@ -161,6 +164,36 @@ void renderSimulator(orvanta::Host& host, orvanta::Dialogs& dialogs, const QStri
     if (!result.error.empty()) qWarning("simulator: %s", result.error.c_str());
 }
 
+// The backgrounds manager over four pictures of the workspace, on the second of them.
+void renderBackgrounds(orvanta::Host& host, orvanta::Dialogs& dialogs, const QString& dataFolder,
+                       const QString& file) {
+    using namespace orvanta;
+    const QString workspace = dataFolder + QStringLiteral("/workspace");
+    QDir().mkpath(workspace + QStringLiteral("/backgrounds"));
+    const std::pair<const char*, std::pair<QColor, QColor>> pictures[] = {
+        {"Dawn.jpg", {QColor(250, 200, 150), QColor(120, 90, 160)}},
+        {"Ocean.jpg", {QColor(20, 40, 120), QColor(140, 200, 240)}},
+        {"Meadow.png", {QColor(60, 150, 60), QColor(230, 230, 120)}},
+        {"Slate.png", {QColor(60, 60, 70), QColor(200, 200, 210)}}};
+    for (const auto& [name, colours] : pictures) {
+        QImage picture(960, 540, QImage::Format_RGB32);
+        QPainter painter(&picture);
+        QLinearGradient gradient(0, 0, 960, 540);
+        gradient.setColorAt(0, colours.first);
+        gradient.setColorAt(1, colours.second);
+        painter.fillRect(picture.rect(), gradient);
+        painter.end();
+        picture.save(workspace + QStringLiteral("/backgrounds/") + QLatin1String(name), "PNG");
+    }
+    vars::workspaceFolder = host.toWindowsPath(workspace.toStdString());
+    themesmanagerContext context(host, dialogs);
+    context.workingFolder = host.toWindowsPath((dataFolder + QStringLiteral("/Sample")).toStdString());
+    themesmanager window(std::move(context));
+    window.show();
+    window.Command1_Click();
+    save(window, file);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -206,5 +239,6 @@ int main(int argc, char** argv) {
     renderEditions(*host, dialogs, data.path(), folder + QStringLiteral("/editionsfrm.png"));
     renderBuild(*host, dialogs, window, folder);
     renderSimulator(*host, dialogs, data.path(), folder);
+    renderBackgrounds(*host, dialogs, data.path(), folder + QStringLiteral("/themesmanager.png"));
     return 0;
 }
