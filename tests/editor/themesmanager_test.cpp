@@ -90,11 +90,16 @@ protected:
         vars::reset();
     }
 
-    void addPicture(const std::string& name, Qt::GlobalColor colour) {
-        QImage picture(16, 9, QImage::Format_ARGB32);
-        picture.fill(colour);
-        const auto path = sandbox.hostRoot() / "workspace" / "backgrounds" / name;
-        picture.save(QString::fromStdString(path.string()), "PNG");
+    // Each picture of its own colour, so that their bytes differ.
+    void addPictures(std::initializer_list<const char*> names) {
+        int hue = 0;
+        for (const char* name : names) {
+            QImage picture(16, 9, QImage::Format_ARGB32);
+            picture.fill(QColor::fromHsv(hue, 200, 200));
+            hue += 40;
+            const auto path = sandbox.hostRoot() / "workspace" / "backgrounds" / name;
+            picture.save(QString::fromStdString(path.string()), "PNG");
+        }
     }
     void previewSetting(std::int32_t value) {
         RegistryAPI(sandbox.host()).writeSettingNumber(vars::settingsKey(), "backPreview", value);
@@ -124,11 +129,7 @@ protected:
 
 // Only the last three letters count, with case; folders count too; the rows keep the system's order.
 TEST_F(Backgrounds, WalkingWithThePreviewOnMakesEachPictureTheBackgroundAndDoNotApplyKeepsTheLast) {
-    addPicture("sky.png", Qt::blue);
-    addPicture("fieldjpg", Qt::green);
-    addPicture("dusk.jpg", Qt::red);
-    addPicture("loud.JPG", Qt::red);
-    addPicture("notes.txt", Qt::red);
+    addPictures({"sky.png", "fieldjpg", "dusk.jpg", "loud.JPG", "notes.txt"});
     previewSetting(1);
     auto window = open();
     Controls ui(*window);
@@ -177,9 +178,7 @@ TEST_F(Backgrounds, WalkingWithThePreviewOnMakesEachPictureTheBackgroundAndDoNot
 }
 
 TEST_F(Backgrounds, SearchFindsTheFirstNameHoldingTheTextAndApplyMakesItTheBackground) {
-    addPicture("ba.png", Qt::blue);
-    addPicture("a.png", Qt::green);
-    addPicture("Harbour.jpg", Qt::red);
+    addPictures({"ba.png", "a.png", "Harbour.jpg"});
     previewSetting(0);
     auto window = open();
     Controls ui(*window);
@@ -230,7 +229,7 @@ TEST_F(Backgrounds, AnEmptyFolderSaysSoAndClosesAndAFailedCopyLeavesTheWindowOpe
     QApplication::processEvents();
     EXPECT_FALSE(empty->isVisible());
 
-    addPicture("sky.png", Qt::blue);
+    addPictures({"sky.png"});
     sandbox.makeFolder("workspace\\backgrounds\\old.png");
     auto window = open("missing");
     EXPECT_EQ(Controls(*window).List1->count(), 2);
