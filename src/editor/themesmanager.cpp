@@ -56,17 +56,14 @@ void themesmanager::Form_Load() {
     ui_->Check1->setChecked(preview == 1);
     names_ = listBackgrounds(context_.host, backgroundsFolder(vars::workspaceFolder));
     for (const std::string& name : names_) ui_->List1->addItem(QString::fromLatin1(name));
-    if (!names_.empty()) {
-        ui_->List1->setCurrentRow(0);
-        updatePreviews();
-    }
+    ui_->HScroll1->setMaximum(std::max<int>(0, static_cast<int>(names_.size()) - 1));
+    ui_->HScroll1->setEnabled(names_.size() > 1);
+    if (!names_.empty()) selectRow(0);
+    showPosition();
     if (ui_->Check1->isChecked() && !names_.empty())
         openPreview();
     else
         placeAlone();
-    showPosition();
-    ui_->HScroll1->setMaximum(std::max<int>(0, static_cast<int>(names_.size()) - 1));
-    ui_->HScroll1->setEnabled(names_.size() > 1);
     if (names_.empty()) {
         context_.dialogs.messageBox(
             {"Backgrounds folder is empty.", MessageButtons::Ok, MessageIcon::Exclamation, ""});
@@ -78,23 +75,26 @@ int themesmanager::currentRow() const {
     return ui_->List1->currentRow();
 }
 
-std::string themesmanager::currentFile() const {
-    const int row = currentRow();
+std::string themesmanager::fileAt(int row) const {
     if (row < 0 || row >= static_cast<int>(names_.size())) return {};
     return backgroundsFolder(vars::workspaceFolder) + "\\" + names_[static_cast<std::size_t>(row)];
 }
 
-void themesmanager::updatePreviews() {
+std::string themesmanager::currentFile() const {
+    return fileAt(currentRow());
+}
+
+// The row, its neighbours either side (none beyond the ends), its name and the bar follow `row`.
+void themesmanager::selectRow(int row) {
+    ui_->List1->setCurrentRow(row);
     ui_->aicAlphaImage2->ClearImage();
     ui_->aicAlphaImage3->ClearImage();
-    const int row = currentRow();
-    if (row < 0) return;
-    const std::string folder = backgroundsFolder(vars::workspaceFolder) + "\\";
-    ui_->aicAlphaImage1->LoadImage_FromFile(currentFile());
-    if (row > 0) ui_->aicAlphaImage2->LoadImage_FromFile(folder + names_[static_cast<std::size_t>(row - 1)]);
-    if (row + 1 < static_cast<int>(names_.size()))
-        ui_->aicAlphaImage3->LoadImage_FromFile(folder + names_[static_cast<std::size_t>(row + 1)]);
-    ui_->label1->setText(QString::fromLatin1(names_[static_cast<std::size_t>(row)]));
+    ui_->aicAlphaImage1->LoadImage_FromFile(fileAt(row));
+    if (row > 0) ui_->aicAlphaImage2->LoadImage_FromFile(fileAt(row - 1));
+    if (row + 1 < static_cast<int>(names_.size())) ui_->aicAlphaImage3->LoadImage_FromFile(fileAt(row + 1));
+    ui_->label1->setText(ui_->List1->item(row)->text());
+    const QSignalBlocker quiet(ui_->HScroll1);
+    ui_->HScroll1->setValue(row);
 }
 
 void themesmanager::showPosition() {
@@ -114,10 +114,7 @@ void themesmanager::Command2_Click() {
 void themesmanager::walk(int step) {
     const int row = currentRow() + step;
     if (row >= 0 && row < static_cast<int>(names_.size())) {
-        ui_->List1->setCurrentRow(row);
-        updatePreviews();
-        const QSignalBlocker quiet(ui_->HScroll1);
-        ui_->HScroll1->setValue(row);
+        selectRow(row);
         if (ui_->Check1->isChecked() && context_.preview != nullptr && copyOverBackground()) {
             context_.preview->close();
             openPreview();
@@ -128,8 +125,7 @@ void themesmanager::walk(int step) {
 
 void themesmanager::HScroll1_Change(int value) {
     if (value < 0 || value >= static_cast<int>(names_.size())) return;
-    ui_->List1->setCurrentRow(value);
-    updatePreviews();
+    selectRow(value);
     showPosition();
     if (ui_->Check1->isChecked() && context_.preview != nullptr && context_.preview->isOpen())
         context_.preview->showPicture(currentFile());
@@ -148,16 +144,14 @@ void themesmanager::Check1_Click() {
 
 void themesmanager::label1_Change(const QString& text) {
     const auto found = findBackground(names_, text.toLatin1().toStdString());
-    if (!found) return;
-    ui_->HScroll1->setValue(static_cast<int>(*found));
-    if (currentRow() != static_cast<int>(*found)) HScroll1_Change(static_cast<int>(*found));
+    if (found) ui_->HScroll1->setValue(static_cast<int>(*found));
 }
 
-// A copy that fails (the file in use, the disk full) is said, and the window stays as it was.
+// Of the current picture, which exists. A copy that fails (the file in use, the disk full) is said, and the
+// window stays as it was.
 bool themesmanager::copyOverBackground() {
     const std::string source = currentFile();
     const std::string target = context_.workingFolder + "\\1.jpg";
-    if (source.empty()) return true;
     if (context_.host.copyFile(source, target)) {
         copiedOverBackground_ = true;
         return true;

@@ -60,9 +60,10 @@ protected:
 
 private:
     void Form_Load();
-    void updatePreviews();
+    void selectRow(int row);
     void walk(int step);
     void showPosition();
+    std::string fileAt(int row) const;
     std::string currentFile() const;
     bool copyOverBackground();
     void openPreview();

@@ -4,11 +4,15 @@
 
 namespace orvanta {
 
+namespace {
+
 bool isBackgroundName(const std::string& name) {
     if (name.size() < 3) return false;
     const std::string_view last = std::string_view(name).substr(name.size() - 3);
     return last == "jpg" || last == "png";
 }
+
+}  // namespace
 
 std::vector<std::string> listBackgrounds(Host& host, const std::string& folder) {
     std::vector<std::string> names;

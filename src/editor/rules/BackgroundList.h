@@ -10,9 +10,8 @@
 
 namespace orvanta {
 
-// Only the last three characters count, with case: "sky.jpg" and "skyjpg" are taken, "sky.JPG"
-// is not. Folders whose names end so are taken too.
-bool isBackgroundName(const std::string& name);
+// Only the last three characters of a name count, with case: "sky.jpg" and "skyjpg" are taken,
+// "sky.JPG" is not. Folders whose names end so are taken too.
 std::vector<std::string> listBackgrounds(Host& host, const std::string& folder);
 // The first name that holds `search`, both in lower case; nothing when none does.
 std::optional<std::size_t> findBackground(const std::vector<std::string>& names, const std::string& search);
